@@ -1,0 +1,215 @@
+#include "HostApplication.h"
+
+#include <TestWidgetCollection.h>
+#include <VNStyleSheet.h>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLayout>
+#include <QPixmap>
+#include <QPushButton>
+#include <QSet>
+#include <QTemporaryFile>
+#include <QTextStream>
+#include <QTimer>
+
+namespace {
+// Buttons whose window runs modally at once; a screenshot run would wait for a user.
+const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
+
+QTextStream& out()
+{
+    static QTextStream stream(stdout);
+    return stream;
+}
+
+QTextStream& err()
+{
+    static QTextStream stream(stderr);
+    return stream;
+}
+
+QSet<QWidget*> visibleWidgets()
+{
+    QSet<QWidget*> visible;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (QWidget* widget : widgets) {
+        if (widget->isVisible())
+            visible.insert(widget);
+    }
+    return visible;
+}
+
+// A child that floats over a window outside its layout, like the loupe.
+bool isFloatingChild(QWidget* widget)
+{
+    const QWidget* parent = widget->parentWidget();
+    return parent && parent->isWindow() && (!parent->layout() || parent->layout()->indexOf(widget) < 0);
+}
+
+// Windows that became visible, or windows into which a floating child was placed.
+QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
+{
+    QList<QWidget*> windows;
+    const QSet<QWidget*> after = visibleWidgets();
+    for (QWidget* widget : after) {
+        if (before.contains(widget) || !(widget->isWindow() || isFloatingChild(widget)))
+            continue;
+        if (!windows.contains(widget->window()))
+            windows << widget->window();
+    }
+    return windows;
+}
+
+void closeModalWindows()
+{
+    while (QWidget* modal = QApplication::activeModalWidget())
+        modal->close();
+}
+} // namespace
+
+HostApplication::HostApplication() = default;
+
+HostApplication::~HostApplication() = default;
+
+int HostApplication::start(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Opens the TestWidgetCollection panel: test dialogs for the VN widget toolkit."));
+    parser.addHelpOption();
+    const QCommandLineOption listOption(QStringLiteral("list"),
+                                        QStringLiteral("Print every launcher button (object name, text, row, "
+                                                       "column; tab separated; \"-\" for the inspection buttons) "
+                                                       "and exit."));
+    const QCommandLineOption openOption(QStringLiteral("open"),
+                                        QStringLiteral("Click the launcher button NAME after start (repeatable)."),
+                                        QStringLiteral("NAME"));
+    const QCommandLineOption screenshotOption(
+        QStringLiteral("screenshot"),
+        QStringLiteral("Open every launcher button in turn, save each window that appears as DIR/<button>.png and "
+                       "the panel as DIR/TestWidgetCollection.png, then exit."),
+        QStringLiteral("DIR"));
+    parser.addOptions({listOption, openOption, screenshotOption});
+    parser.process(arguments);
+
+    VNStyleSheet::applyTo(qApp);
+    m_panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
+
+    if (parser.isSet(listOption))
+        return listButtons();
+    if (parser.isSet(screenshotOption))
+        return takeScreenshots(parser.value(screenshotOption));
+
+    const QStringList names = parser.values(openOption);
+    for (const QString& name : names) {
+        if (!findButton(name)) {
+            QStringList valid;
+            for (const LauncherButton& entry : launcherButtons())
+                valid << entry.button->objectName();
+            err() << "testwidgetcollection: unknown launcher button \"" << name
+                  << "\". Valid names: " << valid.join(QStringLiteral(", ")) << Qt::endl;
+            return 2;
+        }
+    }
+    m_panel->show();
+    return openButtons(names);
+}
+
+QList<HostApplication::LauncherButton> HostApplication::launcherButtons() const
+{
+    QList<LauncherButton> buttons;
+    for (const char* name : {"showStyleSheet", "loupe", "stateDebug"}) {
+        if (auto* button = m_panel->findChild<QPushButton*>(QLatin1String(name)))
+            buttons << LauncherButton{button, -1, -1};
+    }
+    auto* grid = m_panel->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
+    if (!grid)
+        return buttons;
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        for (int column = 0; column < grid->columnCount(); ++column) {
+            QLayoutItem* item = grid->itemAtPosition(row, column);
+            if (auto* button = item ? qobject_cast<QPushButton*>(item->widget()) : nullptr)
+                buttons << LauncherButton{button, row, column};
+        }
+    }
+    return buttons;
+}
+
+QPushButton* HostApplication::findButton(const QString& name) const
+{
+    for (const LauncherButton& entry : launcherButtons()) {
+        if (entry.button->objectName() == name)
+            return entry.button;
+    }
+    return nullptr;
+}
+
+int HostApplication::listButtons() const
+{
+    for (const LauncherButton& entry : launcherButtons()) {
+        const auto cell = [](int value) { return value < 0 ? QStringLiteral("-") : QString::number(value); };
+        out() << entry.button->objectName() << '\t' << entry.button->text() << '\t' << cell(entry.row) << '\t'
+              << cell(entry.column) << '\n';
+    }
+    out().flush();
+    return 0;
+}
+
+int HostApplication::openButtons(const QStringList& names)
+{
+    for (const QString& name : names) {
+        QPushButton* button = findButton(name);
+        QTimer::singleShot(0, button, &QPushButton::click);
+    }
+    return -1;
+}
+
+int HostApplication::takeScreenshots(const QString& directory)
+{
+    const QDir dir(directory);
+    QTemporaryFile probe(dir.filePath(QStringLiteral("probe-XXXXXX")));
+    if (!QDir().mkpath(directory) || !probe.open()) {
+        err() << "testwidgetcollection: cannot write screenshots to \"" << directory << "\"." << Qt::endl;
+        return 1;
+    }
+    probe.close();
+
+    m_panel->show();
+    QApplication::processEvents();
+    QList<QPair<QString, QWidget*>> shots = {{QStringLiteral("TestWidgetCollection"), m_panel.get()}};
+    QList<LauncherButton> buttons = launcherButtons();
+    // The loupe goes last, so that it lands in the most recently opened dialog.
+    std::stable_partition(buttons.begin(), buttons.end(), [](const LauncherButton& entry) {
+        return entry.button->objectName() != QLatin1String("loupe");
+    });
+    for (const LauncherButton& entry : buttons) {
+        const QString name = entry.button->objectName();
+        if (blockingButtons.contains(name))
+            continue;
+        const QSet<QWidget*> before = visibleWidgets();
+        QTimer watchdog;
+        watchdog.setSingleShot(true);
+        QObject::connect(&watchdog, &QTimer::timeout, &closeModalWindows);
+        watchdog.start(2000);
+        entry.button->click();
+        QApplication::processEvents();
+        watchdog.stop();
+        const QList<QWidget*> windows = newlyShownWindows(before);
+        for (int index = 0; index < windows.size(); ++index)
+            shots << qMakePair(index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1), windows.at(index));
+    }
+    for (const auto& shot : shots) {
+        const QString path = dir.filePath(shot.first + QStringLiteral(".png"));
+        if (!shot.second->grab().save(path, "PNG")) {
+            err() << "testwidgetcollection: cannot write \"" << path << "\"." << Qt::endl;
+            return 1;
+        }
+        out() << path << '\n';
+    }
+    out().flush();
+    return 0;
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QStringList>
+
+#include <memory>
+
+class QPushButton;
+class QWidget;
+class TestWidgetCollection;
+
+// The host of the collection: creates the panel in the toolkit's style and carries out the
+// command line (--list, --open, --screenshot).
+class HostApplication
+{
+public:
+    HostApplication();
+    ~HostApplication();
+
+    // Returns the process exit code, or -1 when the event loop should run.
+    int start(const QStringList& arguments);
+
+private:
+    struct LauncherButton
+    {
+        QPushButton* button;
+        int row;
+        int column;
+    };
+
+    QList<LauncherButton> launcherButtons() const;
+    QPushButton* findButton(const QString& name) const;
+    int listButtons() const;
+    int openButtons(const QStringList& names);
+    int takeScreenshots(const QString& directory);
+
+    std::unique_ptr<TestWidgetCollection> m_panel;
+};

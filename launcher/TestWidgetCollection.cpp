@@ -1,0 +1,190 @@
+#include "TestWidgetCollection.h"
+
+#include "Loupe.h"
+#include "QtTraining.h"
+#include "TestVNMessageBox.h"
+
+#include <DebugStateInfo.h>
+#include <DebugStyleSheet.h>
+
+#include <QMessageBox>
+
+namespace {
+// Creates the window on the first call, with the panel as its parent, and shows it every time.
+template<typename Window>
+Window* showCached(Window*& window, QWidget* panel)
+{
+    if (!window)
+        window = new Window(panel);
+    window->show();
+    return window;
+}
+} // namespace
+
+TestWidgetCollection::TestWidgetCollection(QWidget* parent, Qt::WindowFlags flags)
+    : QWidget(parent, flags)
+    , m_styleSheetViewer(nullptr)
+    , m_testValueFields(nullptr)
+    , m_testSliderView(nullptr)
+    , m_testComboBox(nullptr)
+    , m_qtTraining(nullptr)
+    , m_testProgressComposition(nullptr)
+    , m_testDisclosure(nullptr)
+    , m_loupe(nullptr)
+    , m_stateDebug(nullptr)
+    , m_testPointsControl(nullptr)
+    , m_testTreeDelegates(nullptr)
+    , m_testMasterDetailTree(nullptr)
+    , m_testStringReducer(nullptr)
+    , m_testComposePixmap(nullptr)
+    , m_testFlipWidget(nullptr)
+    , m_testRegExp(nullptr)
+    , m_testSquish(nullptr)
+    , m_testAdvancedMenu(nullptr)
+    , m_testCurveInputControl(nullptr)
+    , m_testInfoArea(nullptr)
+    , m_testColorDisplay(nullptr)
+    , m_testTableWidget(nullptr)
+    , m_testTreeView(nullptr)
+    , m_testTreeWidget(nullptr)
+    , m_testTreeItemDelegate(nullptr)
+    , m_testJoinsTable(nullptr)
+    , m_testLayoutExample(nullptr)
+    , m_testDragAndDrop(nullptr)
+    , m_testSVG(nullptr)
+    , m_testLayoutHelper(nullptr)
+    , m_testModuleNavigation(nullptr)
+    , m_testDendrogramWidget(nullptr)
+    , m_testCompareIcons(nullptr)
+    , m_testAlignment(nullptr)
+    , m_testAnimatedTabBar(nullptr)
+    , m_testNewAssemblyImport(nullptr)
+    , m_testMessageBox(nullptr)
+    , m_testVirtualSlider(nullptr)
+{
+    ui.setupUi(this);
+}
+
+TestWidgetCollection::~TestWidgetCollection()
+{
+    delete m_styleSheetViewer;
+    delete m_stateDebug;
+}
+
+void TestWidgetCollection::showMessage()
+{
+    QMessageBox::information(this, QStringLiteral("test"), QStringLiteral("test"), QMessageBox::Ok,
+                             QMessageBox::NoButton);
+}
+
+void TestWidgetCollection::on_showStyleSheet_clicked()
+{
+    if (!m_styleSheetViewer)
+        m_styleSheetViewer = new DebugStyleSheet(this, false);
+    m_styleSheetViewer->show();
+}
+
+// The loupe goes into the most recently created child window that is still visible, or into the
+// panel when there is none; there is only ever one loupe, moved between windows.
+void TestWidgetCollection::on_loupe_clicked()
+{
+    const QObjectList candidates = children();
+    QWidget* target = this;
+    for (auto it = candidates.crbegin(); it != candidates.crend(); ++it) {
+        QObject* child = *it;
+        if (child->isWidgetType() && static_cast<QWidget*>(child)->isVisible()) {
+            target = static_cast<QWidget*>(child);
+            break;
+        }
+    }
+    if (!m_loupe)
+        m_loupe = new Loupe(target);
+    else
+        m_loupe->setParent(target);
+    m_loupe->show();
+}
+
+void TestWidgetCollection::on_stateDebug_clicked()
+{
+    showCached(m_stateDebug, this)->raise();
+}
+
+void TestWidgetCollection::on_m_visualizePointsControl_clicked() {}
+
+void TestWidgetCollection::on_testMasterDetailTree_clicked() {}
+
+void TestWidgetCollection::on_testPathShortener_clicked() {}
+
+void TestWidgetCollection::on_testComboBox_clicked() {}
+
+void TestWidgetCollection::on_testValueFields_clicked() {}
+
+void TestWidgetCollection::on_testComposePixmap_clicked() {}
+
+void TestWidgetCollection::on_testFlipWidget_clicked() {}
+
+void TestWidgetCollection::on_testColorDisplay_clicked() {}
+
+void TestWidgetCollection::on_m_testRegExp_clicked() {}
+
+void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
+
+void TestWidgetCollection::on_m_testTreeItemDelegate_clicked() {}
+
+void TestWidgetCollection::on_m_testLayouts_clicked() {}
+
+void TestWidgetCollection::on_m_testSquish_clicked() {}
+
+void TestWidgetCollection::on_m_QtTraining_clicked()
+{
+    showCached(m_qtTraining, this);
+}
+
+void TestWidgetCollection::on_m_testSVG_clicked() {}
+
+void TestWidgetCollection::on_m_testAnimatedTabBar_clicked() {}
+
+void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
+
+void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
+
+void TestWidgetCollection::on_m_compareIcons_clicked() {}
+
+void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
+
+void TestWidgetCollection::on_testDisclosure_clicked() {}
+
+void TestWidgetCollection::on_testVnSlider_clicked() {}
+
+void TestWidgetCollection::on_testVNAdvancedMenu_clicked() {}
+
+void TestWidgetCollection::on_testCurveInputControl_clicked() {}
+
+void TestWidgetCollection::on_testInfoArea_clicked() {}
+
+void TestWidgetCollection::on_testVNModuleNavigation_clicked() {}
+
+void TestWidgetCollection::on_testTableWidget_clicked() {}
+
+void TestWidgetCollection::on_m_testVNTreeView_clicked() {}
+
+void TestWidgetCollection::on_testTreeWidget_clicked() {}
+
+void TestWidgetCollection::on_m_joinsTestTable_clicked() {}
+
+void TestWidgetCollection::on_m_vnResultSwitcher_clicked() {}
+
+void TestWidgetCollection::on_m_testDragAndDrop_clicked() {}
+
+void TestWidgetCollection::on_m_progressTest_clicked() {}
+
+void TestWidgetCollection::on_m_converterTest_clicked() {}
+
+void TestWidgetCollection::on_m_testAlignment_clicked() {}
+
+void TestWidgetCollection::on_m_testVNMessageBox_clicked()
+{
+    showCached(m_testMessageBox, this);
+}
+
+void TestWidgetCollection::on_m_testVirtualSlider_clicked() {}

@@ -1,0 +1,12 @@
+#include "FileConverterConfigurationInterface.h"
+
+namespace Varnis {
+
+FileConverterConfigurationInterface::~FileConverterConfigurationInterface() = default;
+
+PathProvider* FileConverterConfigurationInterface::getPathProvider() const
+{
+    return nullptr;
+}
+
+} // namespace Varnis

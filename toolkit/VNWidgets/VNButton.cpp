@@ -1,0 +1,8 @@
+#include "VNButton.h"
+
+VNButton::VNButton(QWidget* parent)
+    : QToolButton(parent)
+    , VNWidgetInterface(this)
+{
+    setAutoRaise(false);
+}

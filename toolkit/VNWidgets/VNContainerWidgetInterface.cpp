@@ -1,0 +1,3 @@
+#include "VNContainerWidgetInterface.h"
+
+VNContainerWidgetInterface::~VNContainerWidgetInterface() = default;

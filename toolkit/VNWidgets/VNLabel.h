@@ -1,0 +1,53 @@
+#pragma once
+
+#include "vnwidgets_export.h"
+
+#include <QIcon>
+#include <QLabel>
+
+// A label in the toolkit's look. It can be a section header, show a value with its unit inside a
+// text pattern ("_UNIT_" stands for the value), or show an icon at a chosen size.
+class VNWIDGETS_EXPORT VNLabel : public QLabel
+{
+    Q_OBJECT
+    Q_PROPERTY(bool isHeader READ isHeader WRITE setIsHeader NOTIFY isHeaderChanged)
+    Q_PROPERTY(QString unitText READ unitText WRITE setUnitText)
+    Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
+
+public:
+    explicit VNLabel(QWidget* parent = nullptr);
+    explicit VNLabel(const QString& text, QWidget* parent = nullptr);
+
+    bool isHeader() const { return m_isHeader; }
+    void setIsHeader(bool header);
+
+    QString unitText() const { return m_unitText; }
+    void setUnitText(const QString& pattern);
+    void setUnitValue(double value, const QString& unit = QString());
+    void clearUnitValue();
+    bool hasUnitValue() const { return m_hasUnitValue; }
+    double unitValue() const { return m_unitValue; }
+    QString unit() const { return m_unit; }
+
+    QIcon icon() const { return m_icon; }
+    void setIcon(const QIcon& icon);
+    QSize iconSize() const { return m_iconSize; }
+    void setIconSize(const QSize& size);
+
+    static const QString unitPlaceholder;
+
+signals:
+    void isHeaderChanged(bool header);
+
+private:
+    void showUnitText();
+    void showIcon();
+
+    bool m_isHeader = false;
+    QString m_unitText;
+    bool m_hasUnitValue = false;
+    double m_unitValue = 0.0;
+    QString m_unit;
+    QIcon m_icon;
+    QSize m_iconSize = QSize(16, 16);
+};
