@@ -84,22 +84,27 @@ void TestWidgetCollection::on_showStyleSheet_clicked()
     m_styleSheetViewer->show();
 }
 
-// The loupe goes into the most recently created child window that is still visible, or into the
-// panel when there is none; there is only ever one loupe, moved between windows.
+// The loupe goes into the most recently created window of the panel that is still visible, or into
+// the panel when there is none; there is only ever one loupe, moved between windows. Only windows
+// count: the panel's own buttons and the loupe itself are children too, and a loupe inside a button
+// (or inside itself) would be useless.
 void TestWidgetCollection::on_loupe_clicked()
 {
     const QObjectList candidates = children();
     QWidget* target = this;
     for (auto it = candidates.crbegin(); it != candidates.crend(); ++it) {
         QObject* child = *it;
-        if (child->isWidgetType() && static_cast<QWidget*>(child)->isVisible()) {
-            target = static_cast<QWidget*>(child);
+        if (!child->isWidgetType())
+            continue;
+        auto* widget = static_cast<QWidget*>(child);
+        if (widget->isVisible() && widget->isWindow()) {
+            target = widget;
             break;
         }
     }
     if (!m_loupe)
         m_loupe = new Loupe(target);
-    else
+    else if (m_loupe->parentWidget() != target)
         m_loupe->setParent(target);
     m_loupe->show();
 }

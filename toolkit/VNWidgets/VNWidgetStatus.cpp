@@ -102,7 +102,7 @@ QString VNWidgetStatus::sigmaLookName(StatusFlags flags)
     if (flags.testFlag(sigmaOn))
         return QStringLiteral("active");
     if (flags.testFlag(sigmaAvailable))
-        return QStringLiteral("enabled");
+        return QStringLiteral("available");
     return QString();
 }
 

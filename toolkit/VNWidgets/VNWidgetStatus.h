@@ -39,7 +39,7 @@ public:
     // Names of the dynamic properties that the style sheet selects on.
     static const char* const statusPropertyName;    // int: the whole status word
     static const char* const lookPropertyName;      // string: the main look ("needInput", "standardLocked", ...)
-    static const char* const sigmaLookPropertyName; // string: the sigma look ("", "enabled", "active", ...)
+    static const char* const sigmaLookPropertyName; // string: the sigma look ("", "available", "active", ...)
     static const char* const comparePropertyName;   // bool: the compare-differs frame
 
     static void setFlag(StatusFlags& flags, Status flag, bool on);

@@ -1,0 +1,96 @@
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+struct Run
+{
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Run runHost(const QStringList& arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(HOST_EXECUTABLE), arguments);
+    Run run;
+    if (!process.waitForFinished(120000))
+        return run;
+    run.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    run.out = QString::fromUtf8(process.readAllStandardOutput());
+    run.err = QString::fromUtf8(process.readAllStandardError());
+    return run;
+}
+} // namespace
+
+class HostTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void help();
+    void listsEveryButton();
+    void unknownOpenNamesTheValidOnes();
+    void screenshots();
+    void unwritableScreenshotDirectory();
+};
+
+void HostTest::help()
+{
+    const Run run = runHost({QStringLiteral("--help")});
+    QCOMPARE(run.exitCode, 0);
+    for (const char* option : {"--list", "--open", "--screenshot"})
+        QVERIFY2(run.out.contains(QLatin1String(option)), option);
+}
+
+void HostTest::listsEveryButton()
+{
+    const Run run = runHost({QStringLiteral("--list")});
+    QCOMPARE(run.exitCode, 0);
+    const QStringList lines = run.out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QCOMPARE(lines.size(), 40);
+    QCOMPARE(lines.first(), QStringLiteral("showStyleSheet\tShow StyleSheet\t-\t-"));
+    QVERIFY(lines.contains(QStringLiteral("m_testLayouts\tLayout && SizeHint\t3\t2")));
+    QCOMPARE(lines.last(), QStringLiteral("m_testVNMessageBox\tVNMessageBox\t15\t0"));
+}
+
+void HostTest::unknownOpenNamesTheValidOnes()
+{
+    const Run run = runHost({QStringLiteral("--open"), QStringLiteral("m_testQML")});
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY(run.err.contains(QStringLiteral("m_testQML")));
+    QVERIFY(run.err.contains(QStringLiteral("m_testVNMessageBox")));
+}
+
+void HostTest::screenshots()
+{
+    QTemporaryDir dir;
+    const Run run = runHost({QStringLiteral("--screenshot"), dir.path()});
+    QCOMPARE(run.exitCode, 0);
+    const QImage panel(dir.filePath(QStringLiteral("TestWidgetCollection.png")));
+    QVERIFY(panel.width() >= 706 && panel.height() >= 636);
+    QCOMPARE(QImage(dir.filePath(QStringLiteral("m_QtTraining.png"))).size(), QSize(290, 624));
+    QCOMPARE(QImage(dir.filePath(QStringLiteral("m_testVNMessageBox.png"))).size(), QSize(765, 573));
+    for (const char* name : {"showStyleSheet", "stateDebug", "loupe"})
+        QVERIFY2(!QImage(dir.filePath(QLatin1String(name) + QStringLiteral(".png"))).isNull(), name);
+    QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("m_converterTest.png"))));
+}
+
+void HostTest::unwritableScreenshotDirectory()
+{
+    QTemporaryDir dir;
+    QFile blocker(dir.filePath(QStringLiteral("file")));
+    QVERIFY(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    const Run run = runHost({QStringLiteral("--screenshot"), dir.filePath(QStringLiteral("file/shots"))});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.err.contains(QStringLiteral("cannot write")));
+}
+
+QTEST_GUILESS_MAIN(HostTest)
+#include "tst_host.moc"

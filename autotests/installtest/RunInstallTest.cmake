@@ -1,0 +1,22 @@
+# Installs the built project into a scratch prefix, then configures, builds and runs a small host
+# project that finds it with find_package(TestWidgetCollection).
+file(REMOVE_RECURSE "${WORK_DIR}")
+set(prefix "${WORK_DIR}/prefix")
+
+function(run_step description)
+    execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "${description} failed (${result}):\n${output}")
+    endif()
+    set(step_output "${output}" PARENT_SCOPE)
+endfunction()
+
+run_step("install" "${CMAKE_COMMAND}" --install "${BINARY_DIR}" --prefix "${prefix}")
+run_step("configure host" "${CMAKE_COMMAND}" -S "${HOST_SOURCE_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}"
+         "-DCMAKE_PREFIX_PATH=${prefix}")
+run_step("build host" "${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
+run_step("run host" "${WORK_DIR}/build/installedhost")
+if(NOT step_output MATCHES "buttons: 40")
+    message(FATAL_ERROR "the installed panel is incomplete: ${step_output}")
+endif()
+message(STATUS "installed host: ${step_output}")

@@ -1,0 +1,299 @@
+#include "VNFormatter.h"
+
+#include <QLocale>
+#include <QMetaEnum>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtMath>
+
+class TestVNFormatter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void notationEnum();
+    void notation_data();
+    void notation();
+    void fieldWidthAndEmpty();
+    void textRoundTrip_data();
+    void textRoundTrip();
+    void valueFromText_data();
+    void valueFromText();
+    void displayUnitResolution();
+    void settingsChangedOnlyOnEffectiveChanges();
+    void globalChangeSignalsOnlyAffectedFormatters();
+
+private:
+    QLocale m_originalLocale;
+};
+
+void TestVNFormatter::init()
+{
+    m_originalLocale = QLocale();
+    QLocale::setDefault(QLocale::c());
+}
+
+void TestVNFormatter::cleanup()
+{
+    QLocale::setDefault(m_originalLocale);
+    const QMetaEnum quantities = QMetaEnum::fromType<UnitConverter::Quantity>();
+    for (int i = 0; i < quantities.keyCount(); ++i)
+        VNFormatter::setGlobalDisplayUnit(UnitConverter::Quantity(quantities.value(i)), QString());
+}
+
+void TestVNFormatter::notationEnum()
+{
+    const QMetaEnum notations = QMetaEnum::fromType<VNFormatter::OutputNotation>();
+    QCOMPARE(notations.name(), "OutputNotation");
+    const char* keys[] = {"StandardNotation", "ScientificNotation", "AutomaticNotation", "EngineeringNotation"};
+    QCOMPARE(notations.keyCount(), 4);
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(notations.keyToValue(keys[i]), i);
+}
+
+void TestVNFormatter::notation_data()
+{
+    QTest::addColumn<int>("notation");
+    QTest::addColumn<int>("decimals");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("standard") << 0 << 2 << 6 << 1234.567 << "1234.57";
+    QTest::newRow("standard never -0") << 0 << 2 << 6 << -0.001 << "0.00";
+    QTest::newRow("scientific") << 1 << 2 << 4 << 1234.567 << "1.235e+03";
+    QTest::newRow("automatic plain") << 2 << 2 << 6 << 1234.5 << "1234.5";
+    QTest::newRow("automatic large") << 2 << 2 << 6 << 1234567.0 << "1.23457e+06";
+    QTest::newRow("engineering") << 3 << 2 << 3 << 12345.0 << "12.3e+03";
+    QTest::newRow("engineering micro") << 3 << 2 << 3 << -0.00012345 << "-123e-06";
+    QTest::newRow("engineering rounds up") << 3 << 2 << 4 << 999.96 << "1.000e+03";
+    QTest::newRow("engineering zero") << 3 << 2 << 3 << 0.0 << "0.00e+00";
+}
+
+void TestVNFormatter::notation()
+{
+    QFETCH(int, notation);
+    QFETCH(int, decimals);
+    QFETCH(int, precision);
+    QFETCH(double, value);
+    QFETCH(QString, expected);
+
+    VNFormatter formatter;
+    formatter.setNotation(notation);
+    formatter.setDecimals(decimals);
+    formatter.setPrecision(precision);
+    QCOMPARE(int(formatter.notation()), notation);
+    QCOMPARE(formatter.textFromValue(value, false), expected);
+}
+
+void TestVNFormatter::fieldWidthAndEmpty()
+{
+    VNFormatter formatter;
+    formatter.setValueUnit("mm");
+    formatter.setFieldWidth(8);
+    QCOMPARE(formatter.textFromValue(1.5, true), QStringLiteral("    1.50 mm"));
+    formatter.setFieldWidth(-8);
+    QCOMPARE(formatter.valueFromText(formatter.textFromValue(1.5, false)), 1.5);
+    formatter.setEmpty(true);
+    QVERIFY(formatter.isEmpty());
+    QCOMPARE(formatter.textFromValue(1.5, true), QString());
+}
+
+void TestVNFormatter::textRoundTrip_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("valueUnit");
+    QTest::addColumn<QString>("displayUnit");
+    QTest::addColumn<int>("notation");
+    QTest::addColumn<QString>("expectedText");
+
+    QTest::newRow("C, mm shown in inch") << "C"
+                                         << "mm"
+                                         << "inch" << 0 << "48.6050 inch";
+    QTest::newRow("German, groups") << "de_DE"
+                                    << "mm"
+                                    << "mm" << 0 << "1.234,5678 mm";
+    QTest::newRow("US English, groups") << "en_US"
+                                        << "mm"
+                                        << "mm" << 0 << "1,234.5678 mm";
+    QTest::newRow("German, scientific") << "de_DE"
+                                        << "N"
+                                        << "kN" << 1 << "1,2346e+00 kN";
+    QTest::newRow("German, engineering") << "de_DE"
+                                         << "s"
+                                         << "min" << 3 << "20,576e+00 min";
+}
+
+void TestVNFormatter::textRoundTrip()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, valueUnit);
+    QFETCH(QString, displayUnit);
+    QFETCH(int, notation);
+    QFETCH(QString, expectedText);
+
+    QLocale::setDefault(locale == QLatin1String("C") ? QLocale::c() : QLocale(locale));
+    VNFormatter formatter;
+    formatter.setValueUnit(valueUnit);
+    formatter.setDisplayUnit(displayUnit);
+    formatter.setNotation(notation);
+    formatter.setDecimals(4);
+    formatter.setPrecision(5);
+    const QString text = formatter.textFromValue(1234.5678, true);
+    QCOMPARE(text, expectedText);
+
+    bool ok = false;
+    const double parsed = formatter.valueFromText(text, &ok);
+    QVERIFY(ok);
+    QVERIFY(qAbs(parsed - 1234.5678) <= 0.2); // the text holds only the shown digits
+    QCOMPARE(formatter.textFromValue(parsed, true), text);
+    QCOMPARE(formatter.valueFromText(formatter.textFromValue(parsed, false)), parsed);
+}
+
+void TestVNFormatter::valueFromText_data()
+{
+    QTest::addColumn<QString>("locale");
+    QTest::addColumn<QString>("displayUnit");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("ok");
+    QTest::addColumn<double>("expectedMm");
+
+    QTest::newRow("German decimal comma") << "de_DE"
+                                          << ""
+                                          << "1,5" << true << 1.5;
+    QTest::newRow("German, C decimal point") << "de_DE"
+                                             << ""
+                                             << "1.5" << true << 1.5;
+    QTest::newRow("German group separator") << "de_DE"
+                                            << ""
+                                            << "1.500" << true << 1500.0;
+    QTest::newRow("no unit means display unit") << "C"
+                                                << "inch"
+                                                << "2" << true << 50.8;
+    QTest::newRow("typed unit wins") << "C"
+                                     << "inch"
+                                     << "2 cm" << true << 20.0;
+    QTest::newRow("unit without space") << "C"
+                                        << ""
+                                        << "1e-3m" << true << 1.0;
+    QTest::newRow("unit of another quantity") << "C"
+                                              << ""
+                                              << "5 deg" << false << 0.0;
+    QTest::newRow("unknown unit") << "C"
+                                  << ""
+                                  << "5 furlong" << false << 0.0;
+    QTest::newRow("not a number") << "C"
+                                  << ""
+                                  << "abc" << false << 0.0;
+    QTest::newRow("blank") << "C"
+                           << ""
+                           << "  " << false << 0.0;
+    QTest::newRow("infinite") << "C"
+                              << ""
+                              << "inf" << false << 0.0;
+}
+
+void TestVNFormatter::valueFromText()
+{
+    QFETCH(QString, locale);
+    QFETCH(QString, displayUnit);
+    QFETCH(QString, text);
+    QFETCH(bool, ok);
+    QFETCH(double, expectedMm);
+
+    QLocale::setDefault(locale == QLatin1String("C") ? QLocale::c() : QLocale(locale));
+    VNFormatter formatter;
+    formatter.setValueUnit("mm");
+    formatter.setDisplayUnit(displayUnit);
+    bool parsed = !ok;
+    QCOMPARE(formatter.valueFromText(text, &parsed), expectedMm);
+    QCOMPARE(parsed, ok);
+}
+
+void TestVNFormatter::displayUnitResolution()
+{
+    VNFormatter formatter;
+    formatter.setValueUnit("mm");
+    formatter.setDisplayUnit("deg");
+    QCOMPARE(formatter.displayUnit(), QStringLiteral("mm")); // cannot convert, so not shown
+    formatter.setUseGlobalDisplayUnit(true);
+    QVERIFY(!formatter.isGlobalOn());
+
+    QVERIFY(VNFormatter::setGlobalDisplayUnit(UnitConverter::Length, "inch"));
+    QVERIFY(formatter.isGlobalOn());
+    QCOMPARE(formatter.displayUnit(), QStringLiteral("inch"));
+    QCOMPARE(formatter.valueToDisplayValue(25.4), 1.0);
+    QCOMPARE(formatter.displayValueToValue(2.0), 50.8);
+    QVERIFY(!VNFormatter::setGlobalDisplayUnit(UnitConverter::Length, "deg"));
+    QVERIFY(!VNFormatter::setGlobalDisplayUnit(UnitConverter::Dimensionless, "%"));
+
+    formatter.setDisplayUnit("cm", true);
+    QVERIFY(!formatter.isGlobalOn());
+    QCOMPARE(formatter.textFromValue(25.4, true), QStringLiteral("2.54 cm"));
+
+    VNFormatter label; // without a value unit, nothing converts: the display unit is a label
+    label.setDisplayUnit("mm");
+    QCOMPARE(label.textFromValue(2.0, true), QStringLiteral("2.00 mm"));
+}
+
+void TestVNFormatter::settingsChangedOnlyOnEffectiveChanges()
+{
+    VNFormatter formatter;
+    QSignalSpy spy(&formatter, &VNFormatter::settingsChanged);
+    formatter.setDecimals(formatter.decimals());
+    formatter.setPrecision(formatter.precision());
+    formatter.setNotation(42);
+    formatter.setEmpty(false);
+    formatter.setFieldWidth(0);
+    formatter.setValueUnit("");
+    formatter.setUseGlobalDisplayUnit(false);
+    QCOMPARE(spy.count(), 0);
+
+    formatter.setDecimals(3);
+    formatter.setPrecision(8);
+    formatter.setNotation(VNFormatter::EngineeringNotation);
+    formatter.setEmpty(true);
+    formatter.setFieldWidth(10);
+    formatter.setValueUnit("mm");
+    formatter.setDisplayUnit("inch");
+    formatter.setUseGlobalDisplayUnit(true);
+    QCOMPARE(spy.count(), 8);
+
+    formatter.setValueUnit("MM");
+    formatter.setDisplayUnit("in");
+    formatter.setDecimals(-5);
+    formatter.setDecimals(-1);
+    QCOMPARE(spy.count(), 9);
+    QCOMPARE(formatter.decimals(), 0);
+}
+
+void TestVNFormatter::globalChangeSignalsOnlyAffectedFormatters()
+{
+    VNFormatter following;
+    following.setValueUnit("mm");
+    following.setUseGlobalDisplayUnit(true);
+    VNFormatter ownUnit;
+    ownUnit.setValueUnit("mm");
+    VNFormatter angle;
+    angle.setValueUnit("deg");
+    angle.setUseGlobalDisplayUnit(true);
+    QSignalSpy followingSpy(&following, &VNFormatter::settingsChanged);
+    QSignalSpy ownUnitSpy(&ownUnit, &VNFormatter::settingsChanged);
+    QSignalSpy angleSpy(&angle, &VNFormatter::settingsChanged);
+
+    QVERIFY(VNFormatter::setGlobalDisplayUnit(UnitConverter::Length, "ft"));
+    QVERIFY(VNFormatter::setGlobalDisplayUnit(UnitConverter::Length, "feet"));
+    QCOMPARE(followingSpy.count(), 1);
+    QVERIFY(VNFormatter::setGlobalDisplayUnit(UnitConverter::Length, QString()));
+    QCOMPARE(followingSpy.count(), 2);
+    QCOMPARE(following.displayUnit(), QStringLiteral("mm"));
+    QCOMPARE(ownUnitSpy.count(), 0);
+    QCOMPARE(angleSpy.count(), 0);
+}
+
+QTEST_GUILESS_MAIN(TestVNFormatter)
+
+#include "tst_vnformatter.moc"

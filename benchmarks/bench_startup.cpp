@@ -1,0 +1,99 @@
+// Prints how fast the panel starts, how long each dialog takes to open the first time, and what a
+// loupe repaint costs. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_startup
+#include "Loupe.h"
+#include "TestWidgetCollection.h"
+
+#include <VNStyleSheet.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QGridLayout>
+#include <QImage>
+#include <QPainter>
+#include <QPushButton>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
+
+double ms(qint64 nanoseconds)
+{
+    return nanoseconds / 1.0e6;
+}
+
+QList<QPushButton*> launcherButtons(QWidget* panel)
+{
+    QList<QPushButton*> buttons;
+    auto* grid = panel->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
+    for (int index = 0; index < grid->count(); ++index) {
+        if (auto* button = qobject_cast<QPushButton*>(grid->itemAt(index)->widget()))
+            buttons << button;
+    }
+    for (const char* name : {"showStyleSheet", "stateDebug"})
+        buttons << panel->findChild<QPushButton*>(QLatin1String(name));
+    return buttons;
+}
+
+QList<QWidget*> windowsOf(QWidget* panel)
+{
+    QList<QWidget*> windows;
+    for (QWidget* child : panel->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (child->isWindow())
+            windows << child;
+    }
+    return windows;
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    QApplication application(argc, argv);
+    QTextStream out(stdout);
+
+    VNStyleSheet::applyTo(&application);
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.show();
+    panel.grab(); // the first paint, with the style sheet resolved
+    QApplication::processEvents();
+    out << QStringLiteral("panel shown after main(): %1 ms (goal 150 ms)\n")
+               .arg(ms(sinceStart.nsecsElapsed()), 0, 'f', 1);
+
+    out << "first open of each dialog (goal 100 ms each):\n";
+    for (QPushButton* button : launcherButtons(&panel)) {
+        if (blockingButtons.contains(button->objectName()))
+            continue;
+        const int before = windowsOf(&panel).size();
+        QElapsedTimer timer;
+        timer.start();
+        button->click();
+        QList<QWidget*> windows = windowsOf(&panel);
+        if (windows.size() == before)
+            continue; // not wired to a dialog
+        windows.last()->grab();
+        QApplication::processEvents();
+        out << QStringLiteral("  %1 %2 ms\n").arg(button->objectName(), -28).arg(ms(timer.nsecsElapsed()), 6, 'f', 1);
+    }
+
+    QWidget host;
+    host.resize(800, 400);
+    host.show();
+    Loupe loupe(&host);
+    QImage target(loupe.size(), QImage::Format_ARGB32_Premultiplied);
+    const int repaints = 500;
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < repaints; ++i) {
+        QPainter painter(&target);
+        loupe.render(&painter);
+    }
+    out << QStringLiteral("loupe repaint (%1 x %2): %3 ms per repaint (goal 2 ms)\n")
+               .arg(loupe.width())
+               .arg(loupe.height())
+               .arg(ms(timer.nsecsElapsed()) / repaints, 0, 'f', 3);
+    return 0;
+}
