@@ -10,11 +10,11 @@
 #include <QGridLayout>
 #include <QImage>
 #include <QPainter>
+#include <QProcess>
 #include <QPushButton>
 #include <QTextStream>
 
-#include <algorithm>
-#include <cstdio>
+#include <chrono>
 
 namespace {
 const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
@@ -22,6 +22,27 @@ const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
 double ms(qint64 nanoseconds)
 {
     return nanoseconds / 1.0e6;
+}
+
+qint64 monotonicNow()
+{
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+const char* const spawnVariable = "TWC_BENCH_SPAWNED_AT";
+
+// Starts this program again and lets the child report the time from its spawn, so that loading
+// the libraries counts too.
+void measureFromProcessStart(QTextStream& out)
+{
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String(spawnVariable), QString::number(monotonicNow()));
+    child.setProcessEnvironment(environment);
+    child.start(QCoreApplication::applicationFilePath(), QStringList());
+    child.waitForFinished();
+    out << QString::fromUtf8(child.readAllStandardOutput());
 }
 
 QList<QPushButton*> launcherButtons(QWidget* panel)
@@ -50,8 +71,6 @@ QList<QWidget*> windowsOf(QWidget* panel)
 
 int main(int argc, char* argv[])
 {
-    QElapsedTimer sinceStart;
-    sinceStart.start();
     QApplication application(argc, argv);
     QTextStream out(stdout);
 
@@ -60,8 +79,14 @@ int main(int argc, char* argv[])
     panel.show();
     panel.grab(); // the first paint, with the style sheet resolved
     QApplication::processEvents();
-    out << QStringLiteral("panel shown after main(): %1 ms (goal 150 ms)\n")
-               .arg(ms(sinceStart.nsecsElapsed()), 0, 'f', 1);
+    if (qEnvironmentVariableIsSet(spawnVariable)) {
+        const qint64 spawned = qEnvironmentVariable(spawnVariable).toLongLong();
+        out << QStringLiteral("panel shown after process start: %1 ms (goal 150 ms)\n")
+                   .arg(ms(monotonicNow() - spawned), 0, 'f', 1);
+        return 0;
+    }
+    for (int run = 0; run < 3; ++run)
+        measureFromProcessStart(out);
 
     out << "first open of each dialog (goal 100 ms each):\n";
     for (QPushButton* button : launcherButtons(&panel)) {
