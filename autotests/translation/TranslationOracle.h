@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+/*
+  The translation transformations written as plain in-place QRegExp
+  search-and-replace loops, exactly as they are defined. Quadratic on large
+  inputs; the tests use it as the reference for TranslationFileTool.
+*/
+class TranslationOracle
+{
+public:
+    static QString processTsContent(const QString& content, int mode);
+    static QString replaceTrCalls(const QString& content, const QString& context);
+    static QString mockSwedish(const QString& source);
+    static bool isBlank(const QString& text);
+};

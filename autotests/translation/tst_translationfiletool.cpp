@@ -1,0 +1,337 @@
+#include "TranslationFileTool.h"
+#include "TranslationOracle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QTemporaryDir>
+#include <QTest>
+
+class TestTranslationFileTool : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void mockSwedish_data();
+    void mockSwedish();
+    void processTsFile_data();
+    void processTsFile();
+    void rgFilesAreNotRead_data();
+    void rgFilesAreNotRead();
+    void unusableInputGivesNoOutput();
+    void failedWriteKeepsFiles();
+    void countsAndBraces_data();
+    void countsAndBraces();
+    void replaceTrCalls_data();
+    void replaceTrCalls();
+    void replaceTrCallsKeepsNonUtf8File();
+    void processDirectorySkipsLegacyAndLinks();
+    void matchesOracleOnCorpus_data();
+    void matchesOracleOnCorpus();
+    void matchesOracleOnRandomInput();
+
+private:
+    QString writeFile(const QString& name, const QByteArray& content);
+    static QByteArray readBytes(const QString& path);
+
+    TranslationFileTool m_tool;
+    QTemporaryDir m_dir;
+};
+
+QString TestTranslationFileTool::writeFile(const QString& name, const QByteArray& content)
+{
+    const QString path = m_dir.filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray TestTranslationFileTool::readBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+void TestTranslationFileTool::mockSwedish_data()
+{
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("Open file") << "Open file" << QString::fromUtf8("üØpee ffeele-æ");
+    QTest::newRow("Information") << "Information" << QString::fromUtf8("üInfformeshoon");
+    QTest::newRow("Cancel") << "Cancel" << QString::fromUtf8("üCåncel");
+    QTest::newRow("W ends as V, th loses h") << "Width" << QString::fromUtf8("üVeedt");
+    QTest::newRow("entities") << "&lt;Save as&gt;" << QString::fromUtf8("ü&lt;Sefe es&gt;");
+    QTest::newRow("html kept") << "<b>HTML</b> text"
+                               << "<b>HTML</b> text";
+    QTest::newRow("empty") << QString() << QString();
+}
+
+void TestTranslationFileTool::mockSwedish()
+{
+    QFETCH(QString, source);
+    QFETCH(QString, expected);
+    QCOMPARE(m_tool.mockSwedish(source), expected);
+}
+
+void TestTranslationFileTool::processTsFile_data()
+{
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QByteArray>("expected");
+    const QByteArray unfinished = "<source>Cancel</source>\n<translation type=\"unfinished\"> </translation>";
+    QTest::newRow("fix marks blank unfinished") << unfinished << 0
+                                                << QByteArray("<source>Cancel</source>\n"
+                                                              "<translation type=\"unfinished\"></translation>");
+    QTest::newRow("mock") << unfinished << 1
+                          << QByteArray("<source>Cancel</source>\n<translation>\xc3\xbc"
+                                        "C\xc3\xa5ncel</translation>");
+    QTest::newRow("fix strips attributes")
+        << QByteArray("<source>Open</source><translation type=\"obsolete\">Auf</translation>") << 0
+        << QByteArray("<source>Open</source><translation>Auf</translation>");
+    QTest::newRow("blank source, fix") << QByteArray("<source> </source><translation>x</translation>") << 0
+                                       << QByteArray("<source> </source><translation> </translation>");
+    QTest::newRow("blank source, mock") << QByteArray("<source>\n</source><translation>x</translation>") << 1
+                                        << QByteArray("<source>\n</source><translation>\n</translation>");
+    QTest::newRow("html source kept")
+        << QByteArray("<source>&lt;html&gt;Hi</source><translation></translation>") << 1
+        << QByteArray("<source>&lt;html&gt;Hi</source><translation>&lt;html&gt;Hi</translation>");
+    QTest::newRow("numerus forms kept")
+        << QByteArray("<source>%n</source><translation><numerusform>%n</numerusform></translation>") << 0
+        << QByteArray("<source>%n</source><translation><numerusform>%n</numerusform></translation>");
+    QTest::newRow("CRLF read as LF") << QByteArray("<source>a</source>\r\n<translation>b</translation>\r\n") << 0
+                                     << QByteArray("<source>a</source>\n<translation>b</translation>\n");
+    QTest::newRow("binary, invalid UTF-8")
+        << QByteArray("\0\xff<source>\xfe</source><translation>\0</translation>", 48) << 0
+        << QByteArray("\0\xef\xbf\xbd<source>\xef\xbf\xbd</source><translation>\0</translation>", 52);
+    QTest::newRow("no closing tag") << QByteArray("<source>a</source><translation>b") << 0
+                                    << QByteArray("<source>a</source><translation>b");
+}
+
+void TestTranslationFileTool::processTsFile()
+{
+    QFETCH(QByteArray, input);
+    QFETCH(int, mode);
+    QFETCH(QByteArray, expected);
+    const QString path = writeFile(QStringLiteral("sample.ts"), input);
+    QVERIFY(m_tool.processTsFile(path, mode));
+    QCOMPARE(readBytes(path + (mode == 0 ? ".fix" : ".swe")), expected);
+    QCOMPARE(readBytes(path), input);
+}
+
+void TestTranslationFileTool::rgFilesAreNotRead_data()
+{
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<bool>("excluded");
+    QTest::newRow("Rg") << "Rg_de.ts" << true;
+    QTest::newRow("rg") << "rgwidgets.ts" << true;
+    QTest::newRow("RG") << "RG_de.ts" << false;
+    QTest::newRow("rG") << "rG_de.ts" << false;
+}
+
+void TestTranslationFileTool::rgFilesAreNotRead()
+{
+    QFETCH(QString, fileName);
+    QFETCH(bool, excluded);
+    const QString path = writeFile(fileName, "<<source>a</source><translation>b</translation> numerus=\"yes\"");
+    QCOMPARE(m_tool.readTranslationFile(path).isEmpty(), excluded);
+    QCOMPARE(m_tool.processTsFile(path, 0), !excluded);
+    QCOMPARE(QFileInfo::exists(path + ".fix"), !excluded);
+    QCOMPARE(m_tool.countChar(path, '<'), excluded ? 0 : 5);
+    QCOMPARE(m_tool.countString(path, "numerus=\"yes\""), excluded ? 0 : 1);
+    QCOMPARE(m_tool.checkBraces(path), excluded);
+}
+
+void TestTranslationFileTool::unusableInputGivesNoOutput()
+{
+    const QString empty = writeFile(QStringLiteral("empty.ts"), QByteArray());
+    const QString valid = writeFile(QStringLiteral("valid.ts"), "<source>a</source><translation>b</translation>");
+    QVERIFY(!m_tool.processTsFile(empty, 0));
+    QVERIFY(!m_tool.processTsFile(m_dir.filePath(QStringLiteral("missing.ts")), 1));
+    QVERIFY(!m_tool.processTsFile(m_dir.path(), 0));
+    QVERIFY(!m_tool.processTsFile(valid, 2));
+    QVERIFY(!QFileInfo::exists(empty + ".fix"));
+    QVERIFY(!QFileInfo::exists(valid + ".fix") && !QFileInfo::exists(valid + ".swe"));
+    QCOMPARE(m_tool.countUnfinished(empty), 0);
+    QVERIFY(m_tool.checkBraces(m_dir.filePath(QStringLiteral("missing.ts"))));
+    QVERIFY(!m_tool.replaceTrCalls(empty));
+
+    const QString huge = writeFile(QStringLiteral("huge.ts"), "<source>a</source><translation>b</translation>");
+    QVERIFY(QFile::resize(huge, qint64(129) * 1024 * 1024));
+    QVERIFY(!m_tool.processTsFile(huge, 0));
+#ifdef Q_OS_UNIX
+    QVERIFY(m_tool.readTranslationFile(QStringLiteral("/dev/zero")).isEmpty());
+#endif
+}
+
+void TestTranslationFileTool::failedWriteKeepsFiles()
+{
+    const QByteArray input = "<source>a</source><translation>b</translation>";
+    const QString blocked = writeFile(QStringLiteral("blocked.ts"), input);
+    QVERIFY(QDir().mkpath(blocked + ".fix"));
+    QVERIFY(!m_tool.processTsFile(blocked, 0));
+    QVERIFY(QFileInfo(blocked + ".fix").isDir());
+
+    const QString tsPath = writeFile(QStringLiteral("locked/x.ts"), input);
+    const QString earlier = writeFile(QStringLiteral("locked/x.ts.swe"), "earlier");
+    const QString cppPath = writeFile(QStringLiteral("locked/x.cpp"), " tr(1)");
+    const QString dir = QFileInfo(tsPath).path();
+    QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner);
+    const bool enforced = !QFile(dir + "/probe").open(QIODevice::WriteOnly);
+    const bool tsWritten = m_tool.processTsFile(tsPath, 1);
+    const bool cppWritten = m_tool.replaceTrCalls(cppPath);
+    QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (!enforced)
+        QSKIP("directory permissions are not enforced for this user");
+    QVERIFY(!tsWritten && !cppWritten);
+    QCOMPARE(readBytes(earlier), QByteArray("earlier"));
+    QCOMPARE(readBytes(tsPath), input);
+    QCOMPARE(readBytes(cppPath), QByteArray(" tr(1)"));
+}
+
+void TestTranslationFileTool::countsAndBraces_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("opening");
+    QTest::addColumn<int>("closing");
+    QTest::addColumn<int>("unfinished");
+    QTest::addColumn<bool>("balanced");
+    QTest::newRow("tags") << QByteArray("<translation type=\"unfinished\"></translation><translation>") << 3 << 3 << 1
+                          << true;
+    QTest::newRow("closing first") << QByteArray("><") << 1 << 1 << 0 << false;
+    QTest::newRow("unclosed") << QByteArray("<<>") << 2 << 1 << 0 << false;
+}
+
+void TestTranslationFileTool::countsAndBraces()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(int, opening);
+    QFETCH(int, closing);
+    QFETCH(int, unfinished);
+    QFETCH(bool, balanced);
+    const QString path = writeFile(QStringLiteral("counts.ts"), content);
+    QCOMPARE(m_tool.countChar(path, '<'), opening);
+    QCOMPARE(m_tool.countChar(path, '>'), closing);
+    QCOMPARE(m_tool.countUnfinished(path), unfinished);
+    QCOMPARE(m_tool.checkBraces(path), balanced);
+}
+
+void TestTranslationFileTool::replaceTrCalls_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::newRow("call") << QByteArray("x = tr(\"Open\");")
+                          << QByteArray("x = QApplication::translate(\"MyDialog\", \"Open\");");
+    QTest::newRow("space and newline") << QByteArray("\ntr \n(a)")
+                                       << QByteArray("\nQApplication::translate(\"MyDialog\", a)");
+    QTest::newRow("after letter or digit") << QByteArray("attr(1); x1tr(2);") << QByteArray("attr(1); x1tr(2);");
+    QTest::newRow("at file start") << QByteArray("tr(1);") << QByteArray("tr(1);");
+    QTest::newRow("nested call stays") << QByteArray("(tr(tr(1)))")
+                                       << QByteArray("(QApplication::translate(\"MyDialog\", tr(1)))");
+}
+
+void TestTranslationFileTool::replaceTrCalls()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, expected);
+    const QString path = writeFile(QStringLiteral("MyDialog.cpp"), content);
+    QVERIFY(m_tool.replaceTrCalls(path));
+    QCOMPARE(readBytes(path), expected);
+}
+
+void TestTranslationFileTool::replaceTrCallsKeepsNonUtf8File()
+{
+    const QByteArray latin1 = "// Gr\xf6\xdf"
+                              "e\n x = tr(\"a\");";
+    const QString path = writeFile(QStringLiteral("Latin1.cpp"), latin1);
+    QVERIFY(!m_tool.replaceTrCalls(path));
+    QCOMPARE(readBytes(path), latin1);
+}
+
+void TestTranslationFileTool::processDirectorySkipsLegacyAndLinks()
+{
+    const QByteArray call = " tr(\"a\")";
+    QStringList rewritten = {writeFile("tree/a.cpp", call), writeFile("tree/b.h", call),
+                             writeFile("tree/LEGACY/c.cpp", call), writeFile("tree/sub/d.cpp", call)};
+    const QStringList untouched = {writeFile("tree/e.txt", call), writeFile("tree/Legacy/f.cpp", call),
+                                   writeFile("tree/sub/mylegacy/g.h", call), writeFile("outside/h.cpp", call)};
+    QVERIFY(QFile::link(m_dir.filePath("outside"), m_dir.filePath("tree/linkdir")));
+    QVERIFY(QFile::link(m_dir.filePath("outside/h.cpp"), m_dir.filePath("tree/link.cpp")));
+    QVERIFY(QFile::link(m_dir.filePath("tree"), m_dir.filePath("tree/sub/loop")));
+
+    QStringList reported;
+    const int count = m_tool.processDirectory(m_dir.filePath("tree"), [&](const QString& path) { reported << path; });
+    QCOMPARE(count, rewritten.size());
+    reported.sort();
+    rewritten.sort();
+    QCOMPARE(reported, rewritten);
+    for (const QString& path : rewritten)
+        QCOMPARE(readBytes(path),
+                 QByteArray(" QApplication::translate(\"") + QFileInfo(path).baseName().toUtf8() + "\", \"a\")");
+    for (const QString& path : untouched)
+        QCOMPARE(readBytes(path), call);
+}
+
+void TestTranslationFileTool::matchesOracleOnCorpus_data()
+{
+    QTest::addColumn<QString>("corpusFile");
+    QFileInfoList files;
+#ifdef TRANSLATION_CORPUS_DIR
+    files = QDir(QStringLiteral(TRANSLATION_CORPUS_DIR)).entryInfoList({QStringLiteral("*.ts")}, QDir::Files);
+#endif
+    for (const QFileInfo& info : files)
+        QTest::newRow(qPrintable(info.fileName())) << info.filePath();
+    if (files.isEmpty())
+        QTest::newRow("no corpus") << QString();
+}
+
+void TestTranslationFileTool::matchesOracleOnCorpus()
+{
+    QFETCH(QString, corpusFile);
+    if (corpusFile.isEmpty())
+        QSKIP("the .ts corpus is not available");
+    // Work on a copy: processTsFile writes beside its input.
+    const QString copy = m_dir.filePath(QFileInfo(corpusFile).fileName());
+    QFile::remove(copy);
+    QVERIFY(QFile::copy(corpusFile, copy));
+    const QString content = m_tool.readTranslationFile(copy);
+    QVERIFY(!content.isEmpty());
+    for (int mode : {0, 1}) {
+        QVERIFY(m_tool.processTsFile(copy, mode));
+        QCOMPARE(readBytes(copy + (mode == 0 ? ".fix" : ".swe")),
+                 TranslationOracle::processTsContent(content, mode).toUtf8());
+    }
+    QCOMPARE(m_tool.replaceTrCallsInContent(content, "Ctx"), TranslationOracle::replaceTrCalls(content, "Ctx"));
+}
+
+void TestTranslationFileTool::matchesOracleOnRandomInput()
+{
+    // Tags, their broken forms, entities, whitespace and tr( calls, including a NUL.
+    const QStringList fragments =
+        QString::fromUtf8("<source>|</source>|<translation|>|</translation>|<translation>|<| |\n|"
+                          "\t|\r|Open file|a|<source|</translation|type=\"unfinished\"|&lt;|"
+                          "&amp;|html|<numerusform>|</numerusform>|<message numerus=\"yes\">|"
+                          "tr(|attr(|tr (|\xc3\xa4")
+            .split('|')
+        << QString(QChar(0));
+    const QString message = "<message>\n    <source>Open &amp;file</source>\n"
+                            "    <translation type=\"unfinished\"></translation>\n</message>\n";
+    QRandomGenerator random(20240611);
+    for (int round = 0; round < 4000; ++round) {
+        QString input;
+        const int alphabet = 5 + random.bounded(fragments.size() - 5);
+        for (int piece = random.bounded(30); piece > 0; --piece)
+            input += random.bounded(4) == 0 ? message : fragments.at(random.bounded(alphabet));
+        input.truncate(random.bounded(input.size() + 1));
+        for (int mode : {0, 1})
+            QCOMPARE(m_tool.processTsContent(input, mode), TranslationOracle::processTsContent(input, mode));
+        QCOMPARE(m_tool.replaceTrCallsInContent(input, "C"), TranslationOracle::replaceTrCalls(input, "C"));
+        QCOMPARE(m_tool.isBlank(input), TranslationOracle::isBlank(input));
+    }
+}
+
+QTEST_GUILESS_MAIN(TestTranslationFileTool)
+
+#include "tst_translationfiletool.moc"

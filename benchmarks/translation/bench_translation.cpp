@@ -1,0 +1,229 @@
+// Times every TranslationFileTool operation on generated .ts and .cpp files of
+// 1 MB to 20 MB and on a malformed file, next to lconvert on the same input.
+
+#include "TranslationFileTool.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace {
+
+const int runsPerMeasurement = 3;
+const qint64 megabyte = 1000 * 1000;
+
+struct Measurement
+{
+    QString input;
+    double megabytes;
+    QString operation;
+    double milliseconds;
+};
+
+class Generator
+{
+public:
+    QByteArray word() { return words()[next() % words().size()]; }
+    QByteArray sentence(int maxWords)
+    {
+        QByteArray text = word();
+        for (int count = int(next() % maxWords); count > 0; --count)
+            text += ' ' + word();
+        return text;
+    }
+    quint32 next()
+    {
+        m_state = m_state * 1664525u + 1013904223u;
+        return m_state >> 8;
+    }
+
+private:
+    static const QList<QByteArray>& words()
+    {
+        static const QList<QByteArray> list = {
+            "Open",      "file", "Cancel", "Information", "Save", "as",   "Width",  "folder",         "&amp;Edit",
+            "&lt;b&gt;", "%1",   "%n",     "Overview",    "tion", "Auto", "window", "\xc3\xa4nderung"};
+        return list;
+    }
+    quint32 m_state = 20240611;
+};
+
+QByteArray message(Generator& generator, int index)
+{
+    const QByteArray location = "        <location filename=\"../src/widgets/dialog" + QByteArray::number(index % 97) +
+                                ".cpp\" line=\"" + QByteArray::number(index) + "\"/>\n";
+    const QByteArray source = generator.sentence(8);
+    switch (generator.next() % 5) {
+    case 0:
+        return "    <message>\n" + location + "        <source>" + source +
+               "</source>\n        <translation type=\"unfinished\"></translation>\n    </message>\n";
+    case 1:
+        return "    <message numerus=\"yes\">\n" + location + "        <source>" + source +
+               "</source>\n        <translation>\n            <numerusform>" + generator.sentence(4) +
+               "</numerusform>\n            <numerusform>" + generator.sentence(4) +
+               "</numerusform>\n        </translation>\n    </message>\n";
+    case 2:
+        return "    <message>\n" + location + "        <source>" + source + "</source>\n        <comment>" +
+               generator.sentence(5) + "</comment>\n        <translation type=\"obsolete\">" + generator.sentence(8) +
+               "</translation>\n    </message>\n";
+    default:
+        return "    <message>\n" + location + "        <source>" + source + "</source>\n        <translation>" +
+               generator.sentence(8) + "</translation>\n    </message>\n";
+    }
+}
+
+QByteArray generateTs(qint64 size)
+{
+    Generator generator;
+    QByteArray ts =
+        "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<!DOCTYPE TS>\n<TS version=\"2.1\" language=\"de_DE\">\n";
+    ts.reserve(int(size + 4096));
+    for (int index = 0; ts.size() < size; ++index) {
+        ts += "<context>\n    <name>Context" + QByteArray::number(index) + "</name>\n";
+        for (int count = 0; count < 12; ++count)
+            ts += message(generator, index * 12 + count);
+        ts += "</context>\n";
+    }
+    return ts + "</TS>\n";
+}
+
+// Every <source> is followed by an opened but never closed translation.
+QByteArray generateMalformedTs(qint64 size)
+{
+    QByteArray ts = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<TS version=\"2.1\">\n<context>\n";
+    for (int index = 0; ts.size() < size; ++index)
+        ts += "    <message>\n        <source>Open file " + QByteArray::number(index) +
+              "</source>\n        <translation>Datei \xc3\xb6"
+              "ffnen\n    </message>\n";
+    return ts;
+}
+
+QByteArray generateCpp(qint64 size)
+{
+    Generator generator;
+    QByteArray cpp = "#include \"Dialog.h\"\n\nvoid Dialog::retranslate()\n{\n";
+    while (cpp.size() < size) {
+        cpp += "    m_label->setText(tr(\"" + generator.sentence(6) + "\"));\n";
+        cpp += "    m_button->setToolTip(tr (\"" + generator.sentence(4) + "\").arg(m_attr(1)));\n";
+        cpp += "    const int width = attr(m_value) + str(2);\n";
+    }
+    return cpp + "}\n";
+}
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+double bestMilliseconds(const std::function<void()>& prepare, const std::function<void()>& run)
+{
+    double best = 0;
+    for (int attempt = 0; attempt < runsPerMeasurement; ++attempt) {
+        prepare();
+        QElapsedTimer timer;
+        timer.start();
+        run();
+        const double elapsed = timer.nsecsElapsed() / 1e6;
+        if (attempt == 0 || elapsed < best)
+            best = elapsed;
+    }
+    return best;
+}
+
+QString findLconvert()
+{
+    const QString onPath = QStandardPaths::findExecutable(QStringLiteral("lconvert"));
+    if (!onPath.isEmpty())
+        return onPath;
+    return QStandardPaths::findExecutable(QStringLiteral("lconvert"), {QStringLiteral("/usr/lib/qt5/bin")});
+}
+
+void measureTs(const TranslationFileTool& tool, const QString& path, const QString& label, double megabytes,
+               const QString& lconvert, std::vector<Measurement>& results)
+{
+    const auto nothing = [] {};
+    const std::vector<std::pair<QString, std::function<void()>>> operations = {
+        {"fix", [&] { tool.processTsFile(path, TranslationFileTool::FixTags); }},
+        {"mock", [&] { tool.processTsFile(path, TranslationFileTool::MockSwedish); }},
+        {"count braces",
+         [&] {
+             tool.countChar(path, '<');
+             tool.countChar(path, '>');
+         }},
+        {"count numerus", [&] { tool.countString(path, QStringLiteral("numerus=\"yes\"")); }},
+        {"check braces", [&] { tool.checkBraces(path); }},
+        {"count unfinished", [&] { tool.countUnfinished(path); }},
+    };
+    for (const auto& operation : operations)
+        results.push_back({label, megabytes, operation.first, bestMilliseconds(nothing, operation.second)});
+    if (lconvert.isEmpty())
+        return;
+    const auto convert = [&] {
+        QProcess process;
+        process.start(lconvert, {QStringLiteral("-i"), path, QStringLiteral("-o"), path + ".lconvert.ts"});
+        process.waitForFinished(-1);
+    };
+    results.push_back({label, megabytes, QStringLiteral("lconvert"), bestMilliseconds(nothing, convert)});
+}
+
+void printResults(const std::vector<Measurement>& results)
+{
+    std::printf("\n%-16s %9s  %-17s %10s %9s\n", "input", "size MB", "operation", "time ms", "MB/s");
+    for (const Measurement& result : results) {
+        std::printf("%-16s %9.2f  %-17s %10.2f %9.1f\n", qPrintable(result.input), result.megabytes,
+                    qPrintable(result.operation), result.milliseconds, result.megabytes * 1000.0 / result.milliseconds);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication app(argc, argv);
+    QTemporaryDir workDir;
+    if (!workDir.isValid()) {
+        std::fprintf(stderr, "cannot create a temporary directory\n");
+        return 1;
+    }
+    const QString lconvert = findLconvert();
+    const TranslationFileTool tool;
+    std::vector<Measurement> results;
+
+    for (const int sizeMb : {1, 2, 5, 10, 20}) {
+        const QString label = QStringLiteral("ts %1 MB").arg(sizeMb);
+        const QString tsPath = workDir.filePath(QStringLiteral("generated_%1.ts").arg(sizeMb));
+        const QByteArray ts = generateTs(sizeMb * megabyte);
+        if (!writeFile(tsPath, ts))
+            return 1;
+        measureTs(tool, tsPath, label, ts.size() / double(megabyte), lconvert, results);
+
+        const QString cppPath = workDir.filePath(QStringLiteral("Generated%1.cpp").arg(sizeMb));
+        const QByteArray cpp = generateCpp(sizeMb * megabyte);
+        const double cppMs = bestMilliseconds([&] { writeFile(cppPath, cpp); }, [&] { tool.replaceTrCalls(cppPath); });
+        results.push_back({QStringLiteral("cpp %1 MB").arg(sizeMb), cpp.size() / double(megabyte),
+                           QStringLiteral("replaceTrCalls"), cppMs});
+    }
+
+    const QString malformedPath = workDir.filePath(QStringLiteral("malformed.ts"));
+    const QByteArray malformed = generateMalformedTs(400 * 1000);
+    if (!writeFile(malformedPath, malformed))
+        return 1;
+    measureTs(tool, malformedPath, QStringLiteral("malformed 400 KB"), malformed.size() / double(megabyte), QString(),
+              results);
+
+    printResults(results);
+    if (lconvert.isEmpty())
+        std::printf("lconvert: not found\n");
+    else
+        std::printf("lconvert: %s\n", qPrintable(lconvert));
+    return 0;
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+
+#include <functional>
+
+/*
+  Works on Qt Linguist translation files (.ts) and on the product's header and
+  source files: fills translations with a mock Swedish, repairs translation
+  tags, counts things and rewrites tr( calls into QApplication::translate(.
+
+  The results are those of the in-place QRegExp search-and-replace loops that
+  define the tool, but every operation takes time proportional to the file
+  size, also on malformed files (for example many <source> entries without a
+  closing </translation>).
+*/
+class TranslationFileTool
+{
+public:
+    enum Mode
+    {
+        FixTags = 0,    // output suffix ".fix"
+        MockSwedish = 1 // output suffix ".swe"
+    };
+
+    // Receives the path of each header or source file just before it is rewritten.
+    using FileProgress = std::function<void(const QString& filePath)>;
+
+    TranslationFileTool();
+    ~TranslationFileTool();
+
+    // The whole file as UTF-8 text; empty when the file cannot be read, is not a
+    // regular file, is larger than 128 MiB, or its base name starts with "Rg" or "rg".
+    QString readTranslationFile(const QString& filePath) const;
+
+    // Writes filePath + ".fix" (mode 0) or ".swe" (mode 1); false when the input
+    // is empty or unreadable, the mode is unknown or the output cannot be written.
+    bool processTsFile(const QString& filePath, int mode) const;
+
+    // The text processTsFile() writes for the given content; an unknown mode
+    // returns the content unchanged.
+    QString processTsContent(const QString& content, int mode) const;
+
+    QString mockSwedish(const QString& source) const;
+    bool isBlank(const QString& text) const;
+
+    int countString(const QString& filePath, const QString& text) const;
+    int countChar(const QString& filePath, QChar character) const;
+    int countUnfinished(const QString& filePath) const;
+    bool checkBraces(const QString& filePath) const;
+
+    // Rewrites the file in place; true when it was rewritten. A file that is
+    // empty, unreadable or not valid UTF-8 is left alone, and a failed write
+    // leaves the original untouched.
+    bool replaceTrCalls(const QString& filePath) const;
+
+    // The text replaceTrCalls() writes for the given content and context name.
+    QString replaceTrCallsInContent(const QString& content, const QString& context) const;
+
+    // Runs replaceTrCalls() on every *.h and *.cpp file below dirPath, skipping
+    // directories whose path contains "legacy" or "Legacy" and never following a
+    // symbolic link. Returns the number of files rewritten.
+    int processDirectory(const QString& dirPath, const FileProgress& onFile = FileProgress()) const;
+
+    // The root for processDirectory() from $VN_TRANSLATION_SOURCE_PATH; empty when
+    // the variable is unset or empty.
+    static QString sourceRootFromEnvironment();
+};
