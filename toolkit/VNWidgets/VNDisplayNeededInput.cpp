@@ -202,5 +202,16 @@ void VNDisplayNeededInput::paintEvent(QPaintEvent*)
         painter.drawText(QRect(left, contents.top(), contents.right() - left + 1, contents.height()),
                          Qt::AlignLeft | Qt::AlignVCenter, QLatin1Char('+') + QString::number(points.hidden));
     }
-    painter.drawText(textRect(contents, points), textFlags, m_infoText);
+    drawInfoText(painter, textRect(contents, points));
+}
+
+// Wrapped lines that do not fit the height would be cut off; one elided line shows more.
+void VNDisplayNeededInput::drawInfoText(QPainter& painter, const QRect& area) const
+{
+    if (fontMetrics().boundingRect(area, textFlags, m_infoText).height() <= area.height()) {
+        painter.drawText(area, textFlags, m_infoText);
+        return;
+    }
+    const QString line = fontMetrics().elidedText(m_infoText, Qt::ElideRight, area.width());
+    painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter, line);
 }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+class QPainter;
+
 // Shows how many input points an operation needs, how many more it accepts optionally and how
 // many the user has given so far, beside an instruction text.
 //
@@ -74,6 +76,7 @@ private:
     Row row(int width) const;
     int diameter() const;
     QRect textRect(const QRect& contents, const Row& row) const;
+    void drawInfoText(QPainter& painter, const QRect& area) const;
     void updateOptional(int before);
     void changed();
 
