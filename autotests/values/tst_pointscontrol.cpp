@@ -89,60 +89,39 @@ void PointsControlTest::form()
 void PointsControlTest::formRows_data()
 {
     QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("labelClass");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("fieldClass");
-    QTest::newRow("needed") << 0 << "vnLabel"
-                            << "VNLabel"
-                            << "Points needed"
-                            << "m_points"
-                            << "QSpinBox";
-    QTest::newRow("optional") << 1 << "vnLabel_3"
-                              << "VNLabel"
-                              << "Points optional"
-                              << "m_optionalPoints"
-                              << "QSpinBox";
-    QTest::newRow("checked") << 2 << "vnLabel_2"
-                             << "VNLabel"
-                             << "Points checked"
-                             << "m_checked"
-                             << "QSpinBox";
-    QTest::newRow("info") << 3 << "label"
-                          << "QLabel"
-                          << "Info Text"
-                          << "m_infoText"
-                          << "QLineEdit";
-    QTest::newRow("use optional") << 4 << QString() << QString() << "use optional"
-                                  << "m_useOptional"
-                                  << "QCheckBox";
+    QTest::addColumn<QStringList>("label"); // name, class, text
+    QTest::addColumn<QStringList>("field"); // name, class
+    const QStringList rows[][2] = {
+        {{"vnLabel", "VNLabel", "Points needed"}, {"m_points", "QSpinBox"}},
+        {{"vnLabel_3", "VNLabel", "Points optional"}, {"m_optionalPoints", "QSpinBox"}},
+        {{"vnLabel_2", "VNLabel", "Points checked"}, {"m_checked", "QSpinBox"}},
+        {{"label", "QLabel", "Info Text"}, {"m_infoText", "QLineEdit"}},
+        {{}, {"m_useOptional", "QCheckBox"}},
+    };
+    for (int row = 0; row < 5; ++row)
+        QTest::newRow(qPrintable(rows[row][1].first())) << row << rows[row][0] << rows[row][1];
 }
 
 void PointsControlTest::formRows()
 {
     QFETCH(int, row);
-    QFETCH(QString, label);
-    QFETCH(QString, labelClass);
-    QFETCH(QString, text);
-    QFETCH(QString, field);
-    QFETCH(QString, fieldClass);
+    QFETCH(QStringList, label);
+    QFETCH(QStringList, field);
     TestVisualizePointsControl dialog(nullptr);
     auto* form = dialog.findChild<QFormLayout*>(QStringLiteral("formLayout"));
-    QLayoutItem* labelItem = form->itemAt(row, QFormLayout::LabelRole);
     QWidget* fieldWidget = form->itemAt(row, QFormLayout::FieldRole)->widget();
-    QCOMPARE(fieldWidget->objectName(), field);
-    QCOMPARE(fieldWidget->metaObject()->className(), qPrintable(fieldClass));
+    QCOMPARE(fieldWidget->objectName(), field.at(0));
+    QCOMPARE(fieldWidget->metaObject()->className(), qPrintable(field.at(1)));
+    QLayoutItem* labelItem = form->itemAt(row, QFormLayout::LabelRole);
     if (label.isEmpty()) {
         QVERIFY(!labelItem);
-        QCOMPARE(qobject_cast<QCheckBox*>(fieldWidget)->text(), text);
+        QCOMPARE(qobject_cast<QCheckBox*>(fieldWidget)->text(), QStringLiteral("use optional"));
         return;
     }
     auto* labelWidget = qobject_cast<QLabel*>(labelItem->widget());
-    QVERIFY(labelWidget);
-    QCOMPARE(labelWidget->objectName(), label);
-    QCOMPARE(labelWidget->metaObject()->className(), qPrintable(labelClass));
-    QCOMPARE(labelWidget->text(), text);
+    QCOMPARE(labelWidget->objectName(), label.at(0));
+    QCOMPARE(labelWidget->metaObject()->className(), qPrintable(label.at(1)));
+    QCOMPARE(labelWidget->text(), label.at(2));
 }
 
 void PointsControlTest::sampleDataReachesDisplay()

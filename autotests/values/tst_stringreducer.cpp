@@ -50,10 +50,7 @@ class StringReducerTest : public QObject
 private slots:
     void cleanup();
     void form();
-    void rows_data();
-    void rows();
     void sampleData();
-    void adjustFitsTheField();
     void fixedWidth_data();
     void fixedWidth();
     void widthIgnoredWhileNotFixed();
@@ -78,9 +75,16 @@ void StringReducerTest::form()
     QCOMPARE(outer->spacing(), 6);
     QCOMPARE(outer->contentsMargins(), QMargins(11, 11, 11, 11));
     QCOMPARE(outer->count(), 4);
-    QCOMPARE(outer->itemAt(0)->layout()->objectName(), QStringLiteral("horizontalLayout_2"));
-    QCOMPARE(outer->itemAt(1)->layout()->objectName(), QStringLiteral("horizontalLayout"));
-    QCOMPARE(outer->itemAt(2)->layout()->objectName(), QStringLiteral("horizontalLayout_3"));
+    const QStringList rows[] = {{"horizontalLayout_2", "lineEdit", "pushButton", "checkBox"},
+                                {"horizontalLayout", "label"},
+                                {"horizontalLayout_3", "m_width", "m_fixedWidth"}};
+    for (int row = 0; row < 3; ++row) {
+        QLayout* layout = outer->itemAt(row)->layout();
+        QCOMPARE(layout->objectName(), rows[row].first());
+        QCOMPARE(layout->spacing(), 6);
+        for (int index = 1; index < rows[row].size(); ++index)
+            QCOMPARE(layout->itemAt(index - 1)->widget()->objectName(), rows[row].at(index));
+    }
     QSpacerItem* spacer = outer->itemAt(3)->spacerItem();
     QVERIFY(spacer);
     QCOMPARE(spacer->sizeHint(), QSize(20, 115));
@@ -105,27 +109,6 @@ void StringReducerTest::form()
     QCOMPARE(width->value(), 600);
 }
 
-void StringReducerTest::rows_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QStringList>("widgets");
-    QTest::newRow("path") << "horizontalLayout_2" << QStringList{"lineEdit", "pushButton", "checkBox"};
-    QTest::newRow("result") << "horizontalLayout" << QStringList{"label"};
-    QTest::newRow("width") << "horizontalLayout_3" << QStringList{"m_width", "m_fixedWidth"};
-}
-
-void StringReducerTest::rows()
-{
-    QFETCH(QString, layout);
-    QFETCH(QStringList, widgets);
-    TestStringReducer dialog(nullptr);
-    auto* row = dialog.findChild<QHBoxLayout*>(layout);
-    QVERIFY(row);
-    QCOMPARE(row->spacing(), 6);
-    for (int index = 0; index < widgets.size(); ++index)
-        QCOMPARE(row->itemAt(index)->widget()->objectName(), widgets.at(index));
-}
-
 void StringReducerTest::sampleData()
 {
     TestStringReducer dialog(nullptr);
@@ -134,22 +117,6 @@ void StringReducerTest::sampleData()
     QVERIFY(!child<QCheckBox>(&dialog, "m_fixedWidth")->isChecked());
     QVERIFY(!child<QCheckBox>(&dialog, "checkBox")->isChecked());
     QVERIFY(field(&dialog)->text().isEmpty());
-}
-
-void StringReducerTest::adjustFitsTheField()
-{
-    TestStringReducer dialog(nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    child<QLineEdit>(&dialog, "lineEdit")
-        ->setText(QStringLiteral("C:/a/much/longer/path/than/the/field/can/show/"
-                                 "in/its/width/at/all/final_name.txt"));
-    QTest::mouseClick(child<QPushButton>(&dialog, "pushButton"), Qt::LeftButton);
-    QLineEdit* result = field(&dialog);
-    QVERIFY(result->text().startsWith(QStringLiteral("C:/")));
-    QVERIFY(result->text().endsWith(QStringLiteral("/final_name.txt")));
-    QVERIFY(result->text().contains(PathShortener::ellipsis));
-    QVERIFY(textWidth(result) <= result->width() - 10);
 }
 
 void StringReducerTest::fixedWidth_data()
