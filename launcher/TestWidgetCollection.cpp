@@ -2,7 +2,9 @@
 
 #include "Loupe.h"
 #include "QtTraining.h"
+#include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
+#include "TestVisualizePointsControl.h"
 
 #include <DebugStateInfo.h>
 #include <DebugStyleSheet.h>
@@ -114,11 +116,17 @@ void TestWidgetCollection::on_stateDebug_clicked()
     showCached(m_stateDebug, this)->raise();
 }
 
-void TestWidgetCollection::on_m_visualizePointsControl_clicked() {}
+void TestWidgetCollection::on_m_visualizePointsControl_clicked()
+{
+    showCached(m_testPointsControl, this);
+}
 
 void TestWidgetCollection::on_testMasterDetailTree_clicked() {}
 
-void TestWidgetCollection::on_testPathShortener_clicked() {}
+void TestWidgetCollection::on_testPathShortener_clicked()
+{
+    showCached(m_testStringReducer, this);
+}
 
 void TestWidgetCollection::on_testComboBox_clicked() {}
 

@@ -1,0 +1,221 @@
+#include "TestVisualizePointsControl.h"
+#include "TestWidgetCollection.h"
+
+#include <VNDisplayNeededInput.h>
+#include <VNLabel.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+
+namespace {
+const QString sampleText = QStringLiteral("Click four points to define a spine as a master profile.");
+
+struct Controls
+{
+    explicit Controls(QWidget* dialog)
+        : points(dialog->findChild<QSpinBox*>(QStringLiteral("m_points")))
+        , optional(dialog->findChild<QSpinBox*>(QStringLiteral("m_optionalPoints")))
+        , checked(dialog->findChild<QSpinBox*>(QStringLiteral("m_checked")))
+        , infoText(dialog->findChild<QLineEdit*>(QStringLiteral("m_infoText")))
+        , useOptional(dialog->findChild<QCheckBox*>(QStringLiteral("m_useOptional")))
+        , display(dialog->findChild<VNDisplayNeededInput*>(QStringLiteral("m_display")))
+    {}
+
+    void toggleUseOptional() const
+    {
+        QTest::mouseClick(useOptional, Qt::LeftButton, Qt::NoModifier,
+                          QPoint(useOptional->height() / 2, useOptional->height() / 2));
+    }
+
+    QSpinBox* points;
+    QSpinBox* optional;
+    QSpinBox* checked;
+    QLineEdit* infoText;
+    QCheckBox* useOptional;
+    VNDisplayNeededInput* display;
+};
+} // namespace
+
+class PointsControlTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void form();
+    void formRows_data();
+    void formRows();
+    void sampleDataReachesDisplay();
+    void fieldsDriveDisplay();
+    void useOptionalMirrorsDisplayWithoutFeedback();
+    void uncheckingResetsFieldButNotDisplay();
+    void launcherOpensOneDialog();
+};
+
+void PointsControlTest::cleanup()
+{
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void PointsControlTest::form()
+{
+    TestVisualizePointsControl dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QStringLiteral("TestVisualizePointsControlClass"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestVisualizePointsControl"));
+    QCOMPARE(dialog.size(), QSize(552, 176));
+    QCOMPARE(dialog.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(dialog.sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    auto* outer = dialog.findChild<QVBoxLayout*>(QStringLiteral("verticalLayout"));
+    QVERIFY(outer);
+    QCOMPARE(outer->spacing(), 6);
+    QCOMPARE(outer->contentsMargins(), QMargins(11, 11, 11, 11));
+    QCOMPARE(outer->count(), 2);
+    QCOMPARE(outer->itemAt(0)->layout()->objectName(), QStringLiteral("formLayout"));
+    QCOMPARE(outer->itemAt(1)->widget()->objectName(), QStringLiteral("m_display"));
+    QVERIFY(qobject_cast<VNDisplayNeededInput*>(outer->itemAt(1)->widget()));
+    auto* form = dialog.findChild<QFormLayout*>(QStringLiteral("formLayout"));
+    QCOMPARE(form->horizontalSpacing(), 6);
+    QCOMPARE(form->verticalSpacing(), 6);
+    QCOMPARE(form->fieldGrowthPolicy(), QFormLayout::AllNonFixedFieldsGrow);
+    QCOMPARE(form->rowCount(), 5);
+}
+
+void PointsControlTest::formRows_data()
+{
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QStringList>("label"); // name, class, text
+    QTest::addColumn<QStringList>("field"); // name, class
+    const QStringList rows[][2] = {
+        {{"vnLabel", "VNLabel", "Points needed"}, {"m_points", "QSpinBox"}},
+        {{"vnLabel_3", "VNLabel", "Points optional"}, {"m_optionalPoints", "QSpinBox"}},
+        {{"vnLabel_2", "VNLabel", "Points checked"}, {"m_checked", "QSpinBox"}},
+        {{"label", "QLabel", "Info Text"}, {"m_infoText", "QLineEdit"}},
+        {{}, {"m_useOptional", "QCheckBox"}},
+    };
+    for (int row = 0; row < 5; ++row)
+        QTest::newRow(qPrintable(rows[row][1].first())) << row << rows[row][0] << rows[row][1];
+}
+
+void PointsControlTest::formRows()
+{
+    QFETCH(int, row);
+    QFETCH(QStringList, label);
+    QFETCH(QStringList, field);
+    TestVisualizePointsControl dialog(nullptr);
+    auto* form = dialog.findChild<QFormLayout*>(QStringLiteral("formLayout"));
+    QWidget* fieldWidget = form->itemAt(row, QFormLayout::FieldRole)->widget();
+    QCOMPARE(fieldWidget->objectName(), field.at(0));
+    QCOMPARE(fieldWidget->metaObject()->className(), qPrintable(field.at(1)));
+    QLayoutItem* labelItem = form->itemAt(row, QFormLayout::LabelRole);
+    if (label.isEmpty()) {
+        QVERIFY(!labelItem);
+        QCOMPARE(qobject_cast<QCheckBox*>(fieldWidget)->text(), QStringLiteral("use optional"));
+        return;
+    }
+    auto* labelWidget = qobject_cast<QLabel*>(labelItem->widget());
+    QCOMPARE(labelWidget->objectName(), label.at(0));
+    QCOMPARE(labelWidget->metaObject()->className(), qPrintable(label.at(1)));
+    QCOMPARE(labelWidget->text(), label.at(2));
+}
+
+void PointsControlTest::sampleDataReachesDisplay()
+{
+    TestVisualizePointsControl dialog(nullptr);
+    const Controls controls(&dialog);
+    QCOMPARE(controls.points->value(), 2);
+    QCOMPARE(controls.infoText->text(), sampleText);
+    QCOMPARE(controls.display->needed(), 2);
+    QCOMPARE(controls.display->infoText(), sampleText);
+    QCOMPARE(controls.display->optional(), 0);
+    QCOMPARE(controls.display->checked(), 0);
+    QVERIFY(!controls.useOptional->isChecked());
+    QVERIFY(controls.optional->isEnabled());
+}
+
+void PointsControlTest::fieldsDriveDisplay()
+{
+    TestVisualizePointsControl dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const Controls controls(&dialog);
+    controls.points->setValue(4);
+    controls.optional->setValue(2);
+    controls.checked->setValue(3);
+    controls.infoText->clear();
+    QTest::keyClicks(controls.infoText, QStringLiteral("Pick a plane"));
+    QCOMPARE(controls.display->needed(), 4);
+    QCOMPARE(controls.display->optional(), 2);
+    QCOMPARE(controls.display->checked(), 3);
+    QCOMPARE(controls.display->infoText(), QStringLiteral("Pick a plane"));
+    QVERIFY(!controls.display->pointRect(5).isEmpty());
+}
+
+// While the display derives the optional count, the disabled field shows that count after every
+// change of the needed points; writing it must not call back into the dialog.
+void PointsControlTest::useOptionalMirrorsDisplayWithoutFeedback()
+{
+    TestVisualizePointsControl dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const Controls controls(&dialog);
+    QSignalSpy fieldChanges(controls.optional, qOverload<int>(&QSpinBox::valueChanged));
+    controls.toggleUseOptional();
+    QVERIFY(controls.useOptional->isChecked());
+    QVERIFY(!controls.optional->isEnabled());
+    QVERIFY(controls.display->useOptional());
+    QCOMPARE(controls.optional->value(), controls.display->optional());
+    for (int needed : {5, 1, 8}) {
+        controls.points->setValue(needed);
+        QCOMPARE(controls.optional->value(), controls.display->optional());
+    }
+    QCOMPARE(controls.display->optional(), 7);
+    QCOMPARE(fieldChanges.count(), 0);
+
+    controls.optional->setValue(3); // a script writing the disabled field does not reach the display
+    QCOMPARE(controls.display->optional(), 7);
+}
+
+void PointsControlTest::uncheckingResetsFieldButNotDisplay()
+{
+    TestVisualizePointsControl dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const Controls controls(&dialog);
+    controls.optional->setValue(3);
+    QCOMPARE(controls.display->optional(), 3);
+    controls.toggleUseOptional();
+    controls.points->setValue(6);
+    QCOMPARE(controls.optional->value(), 5);
+
+    QSignalSpy fieldChanges(controls.optional, qOverload<int>(&QSpinBox::valueChanged));
+    controls.toggleUseOptional();
+    QVERIFY(controls.optional->isEnabled());
+    QCOMPARE(controls.optional->value(), 0);
+    QCOMPARE(fieldChanges.count(), 0);
+    QCOMPARE(controls.display->optional(), 3); // the count set before, not the field's 0
+
+    controls.optional->setFocus();
+    QTest::keyClick(controls.optional, Qt::Key_Up);
+    QCOMPARE(controls.display->optional(), 1);
+}
+
+void PointsControlTest::launcherOpensOneDialog()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    auto* button = panel.findChild<QPushButton*>(QStringLiteral("m_visualizePointsControl"));
+    button->click();
+    button->click();
+    const auto dialogs = panel.findChildren<TestVisualizePointsControl*>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(dialogs.size(), 1);
+    QVERIFY(dialogs.first()->isVisible());
+    QVERIFY(dialogs.first()->isWindow());
+}
+
+QTEST_MAIN(PointsControlTest)
+#include "tst_pointscontrol.moc"
