@@ -143,7 +143,8 @@ QSize VNInfoArea::minimumSizeHint() const
 {
     const int minimumText = fontMetrics().horizontalAdvance(QStringLiteral("Mm…"));
     if (m_verticalArranged)
-        return QSize(2 * padding + qMax(minimumText, iconExtent), padding + iconExtent + spacing + lineHeight() + padding);
+        return QSize(2 * padding + qMax(minimumText, iconExtent),
+                     padding + iconExtent + spacing + lineHeight() + padding);
     return QSize(2 * padding + iconExtent + 2 * spacing + minimumText + buttonExtent,
                  2 * padding + qMax(qMax(iconExtent, buttonExtent), lineHeight()));
 }
@@ -190,7 +191,8 @@ void VNInfoArea::showInfo()
     QPoint topLeft = anchor->mapToGlobal(QPoint(anchor->width() - m_popup->width(), anchor->height() + 2));
     if (const QScreen* screen = this->screen()) {
         const QRect available = screen->availableGeometry();
-        topLeft.setX(qBound(available.left(), topLeft.x(), qMax(available.left(), available.right() - m_popup->width())));
+        topLeft.setX(
+            qBound(available.left(), topLeft.x(), qMax(available.left(), available.right() - m_popup->width())));
         if (topLeft.y() + m_popup->height() > available.bottom())
             topLeft.setY(anchor->mapToGlobal(QPoint(0, 0)).y() - m_popup->height() - 2);
     }
