@@ -1,0 +1,1 @@
+void f() { setText(tr("Open")); x = tr ( "A" ); }
