@@ -132,6 +132,9 @@ void TestRegExpTest::form()
     QCOMPARE(dialog.size(), QSize(600, 313));
     QCOMPARE(dialog.minimumSize(), QSize(600, 313));
     QCOMPARE(dialog.maximumSize(), QSize(600, 313));
+    const QMetaObject* meta = dialog.metaObject();
+    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") >= 0);
+    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") < meta->indexOfSlot("onBtnFileDialogClicked()"));
 
     auto* layout = dialog.findChild<QVBoxLayout*>(QStringLiteral("verticalLayout_2"));
     QVERIFY(layout);

@@ -322,7 +322,6 @@ void VNInfoArea::updateParts()
     m_infoButton->setGeometry(m_parts.button);
     m_infoButton->setVisible(showButton);
     m_infoButton->setToolTip(showButton ? fullText() : QString());
-    setToolTip(m_parts.elided ? m_text : QString());
     update();
 }
 
