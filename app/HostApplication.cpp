@@ -15,10 +15,14 @@
 #include <QTemporaryFile>
 #include <QTextStream>
 #include <QTimer>
+#include <QTranslator>
 
 namespace {
 // Buttons whose window runs modally at once; a screenshot run would wait for a user.
 const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
+// Built from the collection's own texts and embedded into the library when lupdate and lrelease
+// were found at build time.
+const QString mockTranslation = QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm");
 
 QTextStream& out()
 {
@@ -93,8 +97,15 @@ int HostApplication::start(const QStringList& arguments)
         QStringLiteral("Open every launcher button in turn, save each window that appears as DIR/<button>.png and "
                        "the panel as DIR/TestWidgetCollection.png, then exit."),
         QStringLiteral("DIR"));
-    parser.addOptions({listOption, openOption, screenshotOption});
+    const QCommandLineOption mockLocaleOption(
+        QStringLiteral("mock-locale"),
+        QStringLiteral("Show every translated text in mock Swedish, so that a text that stays English is one that "
+                       "is hard-coded."));
+    parser.addOptions({listOption, openOption, screenshotOption, mockLocaleOption});
     parser.process(arguments);
+    // The texts are translated when the forms are set up, so the translation comes first.
+    if (parser.isSet(mockLocaleOption) && !installMockTranslation())
+        return 1;
 
     VNStyleSheet::applyTo(qApp);
     m_panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
@@ -117,6 +128,19 @@ int HostApplication::start(const QStringList& arguments)
     }
     m_panel->show();
     return openButtons(names);
+}
+
+bool HostApplication::installMockTranslation()
+{
+    m_mockTranslation = std::make_unique<QTranslator>();
+    if (!m_mockTranslation->load(mockTranslation)) {
+        err() << "testwidgetcollection: --mock-locale: this build has no mock Swedish translation. Install lupdate "
+                 "and lrelease (Debian package qttools5-dev-tools) and build again."
+              << Qt::endl;
+        return false;
+    }
+    QCoreApplication::installTranslator(m_mockTranslation.get());
+    return true;
 }
 
 QList<HostApplication::LauncherButton> HostApplication::launcherButtons() const

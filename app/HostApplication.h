@@ -5,11 +5,12 @@
 #include <memory>
 
 class QPushButton;
+class QTranslator;
 class QWidget;
 class TestWidgetCollection;
 
 // The host of the collection: creates the panel in the toolkit's style and carries out the
-// command line (--list, --open, --screenshot).
+// command line (--list, --open, --screenshot, --mock-locale).
 class HostApplication
 {
 public:
@@ -32,6 +33,8 @@ private:
     int listButtons() const;
     int openButtons(const QStringList& names);
     int takeScreenshots(const QString& directory);
+    bool installMockTranslation();
 
+    std::unique_ptr<QTranslator> m_mockTranslation;
     std::unique_ptr<TestWidgetCollection> m_panel;
 };

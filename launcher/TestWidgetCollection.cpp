@@ -3,6 +3,7 @@
 #include "Loupe.h"
 #include "QtTraining.h"
 #include "TestStringReducer.h"
+#include "TestRegExp.h"
 #include "TestVNMessageBox.h"
 #include "TestVisualizePointsControl.h"
 
@@ -138,7 +139,10 @@ void TestWidgetCollection::on_testFlipWidget_clicked() {}
 
 void TestWidgetCollection::on_testColorDisplay_clicked() {}
 
-void TestWidgetCollection::on_m_testRegExp_clicked() {}
+void TestWidgetCollection::on_m_testRegExp_clicked()
+{
+    showCached(m_testRegExp, this);
+}
 
 void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
 

@@ -331,8 +331,12 @@ int TranslationFileTool::countUnfinished(const QString& filePath) const
 
 bool TranslationFileTool::checkBraces(const QString& filePath) const
 {
+    return checkBracesInContent(readTranslationFile(filePath));
+}
+
+bool TranslationFileTool::checkBracesInContent(const QString& content) const
+{
     int depth = 0;
-    const QString content = readTranslationFile(filePath);
     for (const QChar character : content) {
         if (character == QLatin1Char('<'))
             ++depth;
@@ -371,7 +375,8 @@ QString TranslationFileTool::replaceTrCallsInContent(const QString& content, con
     return result;
 }
 
-int TranslationFileTool::processDirectory(const QString& dirPath, const FileProgress& onFile) const
+int TranslationFileTool::processDirectory(const QString& dirPath, const FileProgress& onFile,
+                                          const FileSkipped& onSkipped) const
 {
     if (dirPath.contains(QLatin1String("legacy")) || dirPath.contains(QLatin1String("Legacy")))
         return 0;
@@ -383,12 +388,14 @@ int TranslationFileTool::processDirectory(const QString& dirPath, const FileProg
             continue;
         if (entry.isDir()) {
             if (entry.fileName() != QLatin1String(".") && entry.fileName() != QLatin1String(".."))
-                rewritten += processDirectory(entry.filePath(), onFile);
+                rewritten += processDirectory(entry.filePath(), onFile, onSkipped);
         } else if (entry.isFile() && (entry.suffix() == QLatin1String("h") || entry.suffix() == QLatin1String("cpp"))) {
             if (onFile)
                 onFile(entry.filePath());
             if (replaceTrCalls(entry.filePath()))
                 ++rewritten;
+            else if (onSkipped)
+                onSkipped(entry.filePath());
         }
     }
     return rewritten;

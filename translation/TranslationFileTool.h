@@ -26,6 +26,8 @@ public:
 
     // Receives the path of each header or source file just before it is rewritten.
     using FileProgress = std::function<void(const QString& filePath)>;
+    // Receives the path of each header or source file that was left as it was.
+    using FileSkipped = std::function<void(const QString& filePath)>;
 
     TranslationFileTool();
     ~TranslationFileTool();
@@ -49,6 +51,8 @@ public:
     int countChar(const QString& filePath, QChar character) const;
     int countUnfinished(const QString& filePath) const;
     bool checkBraces(const QString& filePath) const;
+    // True when every '>' closes an earlier '<' and none stays open.
+    bool checkBracesInContent(const QString& content) const;
 
     // Rewrites the file in place; true when it was rewritten. A file that is
     // empty, unreadable or not valid UTF-8 is left alone, and a failed write
@@ -61,7 +65,8 @@ public:
     // Runs replaceTrCalls() on every *.h and *.cpp file below dirPath, skipping
     // directories whose path contains "legacy" or "Legacy" and never following a
     // symbolic link. Returns the number of files rewritten.
-    int processDirectory(const QString& dirPath, const FileProgress& onFile = FileProgress()) const;
+    int processDirectory(const QString& dirPath, const FileProgress& onFile = FileProgress(),
+                         const FileSkipped& onSkipped = FileSkipped()) const;
 
     // The root for processDirectory() from $VN_TRANSLATION_SOURCE_PATH; empty when
     // the variable is unset or empty.

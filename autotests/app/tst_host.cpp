@@ -1,3 +1,5 @@
+#include "TranslationFileTool.h"
+
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -38,6 +40,7 @@ private slots:
     void unknownOpenNamesTheValidOnes();
     void screenshots();
     void unwritableScreenshotDirectory();
+    void mockLocale();
 };
 
 void HostTest::help()
@@ -90,6 +93,17 @@ void HostTest::unwritableScreenshotDirectory()
     const Run run = runHost({QStringLiteral("--screenshot"), dir.filePath(QStringLiteral("file/shots"))});
     QCOMPARE(run.exitCode, 1);
     QVERIFY(run.err.contains(QStringLiteral("cannot write")));
+}
+
+void HostTest::mockLocale()
+{
+    if (!TWC_HAS_MOCK_TRANSLATION)
+        QSKIP("built without lupdate and lrelease");
+    const Run run = runHost({QStringLiteral("--mock-locale"), QStringLiteral("--list")});
+    QCOMPARE(run.exitCode, 0);
+    const QString loupe = TranslationFileTool().mockSwedish(QStringLiteral("Show Loupe"));
+    QVERIFY2(run.out.contains(QStringLiteral("loupe\t") + loupe + QStringLiteral("\t-\t-\n")), qPrintable(run.out));
+    QVERIFY(!run.out.contains(QStringLiteral("\tShow Loupe\t")));
 }
 
 QTEST_GUILESS_MAIN(HostTest)

@@ -259,6 +259,8 @@ void LauncherPanelTest::cachedWindows_data()
                                  << "DebugStateInfo";
     QTest::newRow("qt training") << "m_QtTraining"
                                  << "QtTraining";
+    QTest::newRow("reg exp") << "m_testRegExp"
+                             << "TestRegExp";
     QTest::newRow("message box test") << "m_testVNMessageBox"
                                       << "TestVNMessageBox";
 }

@@ -1,0 +1,314 @@
+#include "TestRegExp.h"
+#include "TestWidgetCollection.h"
+
+#include <VNInfoArea.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+namespace {
+// The dialog with its file dialog replaced by a script: it answers with queued paths and
+// remembers where each dialog would have opened.
+class ScriptedTestRegExp : public TestRegExp
+{
+public:
+    ScriptedTestRegExp()
+        : TestRegExp(nullptr)
+    {}
+
+    QStringList answers;
+    QStringList startDirectories;
+
+protected:
+    QString chooseFile(const QString& startDirectory) override
+    {
+        startDirectories << startDirectory;
+        return answers.isEmpty() ? QString() : answers.takeFirst();
+    }
+};
+
+// Records the text of the feedback box every time it is painted.
+class PaintRecorder : public QObject
+{
+public:
+    explicit PaintRecorder(QTextBrowser* feedback)
+        : m_feedback(feedback)
+    {
+        feedback->viewport()->installEventFilter(this);
+    }
+
+    QStringList painted;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted << m_feedback->toPlainText();
+        return false;
+    }
+
+private:
+    QTextBrowser* m_feedback;
+};
+
+QByteArray readBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+} // namespace
+
+class TestRegExpTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void form();
+    void openedFromLauncher();
+    void emptyPath_data();
+    void emptyPath();
+    void modeMessages_data();
+    void modeMessages();
+    void processingIsShownDuringWork();
+    void fileDialogStartsAtPreviousFile();
+    void wholeProjectNeedsEnvironment();
+    void wholeProjectSkipsLegacy();
+
+private:
+    QString writeFile(const QString& name, const QByteArray& content);
+    static void start(TestRegExp& dialog, int mode, const QString& path);
+    static QString feedback(TestRegExp& dialog);
+
+    QScopedPointer<QTemporaryDir> m_dir;
+};
+
+void TestRegExpTest::init()
+{
+    m_dir.reset(new QTemporaryDir);
+    qunsetenv("VN_TRANSLATION_SOURCE_PATH");
+}
+
+void TestRegExpTest::cleanup()
+{
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+QString TestRegExpTest::writeFile(const QString& name, const QByteArray& content)
+{
+    const QString path = m_dir->filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+void TestRegExpTest::start(TestRegExp& dialog, int mode, const QString& path)
+{
+    dialog.findChild<QLabel*>(QStringLiteral("m_pathDisplay"))->setText(path);
+    dialog.findChild<QComboBox*>(QStringLiteral("m_modeSelection"))->setCurrentIndex(mode);
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_btnStart")), Qt::LeftButton);
+}
+
+QString TestRegExpTest::feedback(TestRegExp& dialog)
+{
+    return dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback"))->toPlainText();
+}
+
+void TestRegExpTest::form()
+{
+    TestRegExp dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QStringLiteral("TestRegExpClass"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestRegExp"));
+    QCOMPARE(dialog.size(), QSize(600, 313));
+    QCOMPARE(dialog.minimumSize(), QSize(600, 313));
+    QCOMPARE(dialog.maximumSize(), QSize(600, 313));
+    const QMetaObject* meta = dialog.metaObject();
+    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") >= 0);
+    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") < meta->indexOfSlot("onBtnFileDialogClicked()"));
+
+    auto* layout = dialog.findChild<QVBoxLayout*>(QStringLiteral("verticalLayout_2"));
+    QVERIFY(layout);
+    QCOMPARE(layout->spacing(), 6);
+    QCOMPARE(layout->contentsMargins(), QMargins(11, 11, 11, 11));
+    const QStringList order = {"m_infoArea",      "m_pathDisplay", "m_btnFileDialog",
+                               "m_modeSelection", "m_feedback",    "m_btnStart"};
+    QCOMPARE(layout->count(), order.size());
+    for (int index = 0; index < order.size(); ++index)
+        QCOMPARE(layout->itemAt(index)->widget()->objectName(), order.at(index));
+
+    auto* info = dialog.findChild<VNInfoArea*>(QStringLiteral("m_infoArea"));
+    QCOMPARE(info->iconType(), VNInfoArea::Info);
+    QCOMPARE(info->text(), QStringLiteral("We need this for the mock Swedish!"));
+    auto* path = dialog.findChild<QLabel*>(QStringLiteral("m_pathDisplay"));
+    QVERIFY(path->text().isEmpty());
+    QCOMPARE(path->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    QCOMPARE(path->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("m_btnFileDialog"))->text(),
+             QStringLiteral("Choose file..."));
+    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("m_btnStart"))->text(), QStringLiteral("Start"));
+    auto* modes = dialog.findChild<QComboBox*>(QStringLiteral("m_modeSelection"));
+    QStringList texts;
+    for (int index = 0; index < modes->count(); ++index)
+        texts << modes->itemText(index);
+    QCOMPARE(texts,
+             QStringList({"Fix tags", "Mock swedish", "Count braces", "Count numerus tags", "Check brace correctness",
+                          "tr to translate in whole project", "Count untranslated strings"}));
+    auto* feedback = dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback"));
+    QCOMPARE(feedback->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(feedback->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+}
+
+void TestRegExpTest::openedFromLauncher()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.findChild<QPushButton*>(QStringLiteral("m_testRegExp"))->click();
+    const auto dialogs = panel.findChildren<TestRegExp*>(QString(), Qt::FindDirectChildrenOnly);
+    QCOMPARE(dialogs.size(), 1);
+    QVERIFY(dialogs.first()->isVisible());
+}
+
+void TestRegExpTest::emptyPath_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("message");
+    const QString choose = QStringLiteral("Please choose a file path before starting the translation.");
+    for (int mode : {0, 1, 2, 3, 4, 6})
+        QTest::addRow("mode %d", mode) << mode << choose;
+    QTest::newRow("mode 5") << 5 << QStringLiteral("This feature is disabled.");
+}
+
+void TestRegExpTest::emptyPath()
+{
+    QFETCH(int, mode);
+    QFETCH(QString, message);
+    TestRegExp dialog(nullptr);
+    start(dialog, mode, QString());
+    QCOMPARE(feedback(dialog), message);
+}
+
+void TestRegExpTest::modeMessages_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("outputSuffix");
+    const QByteArray ts = "<TS><context><message><source>Open file</source>"
+                          "<translation type=\"unfinished\"></translation></message>"
+                          "<message numerus=\"yes\"><source>Cancel</source>"
+                          "<translation type=\"unfinished\"></translation></message></context></TS>";
+    QTest::newRow("fix") << 0 << ts << "The file was translated successfully."
+                         << ".fix";
+    QTest::newRow("mock") << 1 << ts << "The file was translated successfully."
+                          << ".swe";
+    QTest::newRow("braces equal") << 2 << QByteArray("<a><b>")
+                                  << "The file contains:\n2 opening braces and \n2 closing braces." << QString();
+    QTest::newRow("braces differ") << 2 << QByteArray("<a>>")
+                                   << "The file contains:\n1 opening braces and \n2 closing braces.\n"
+                                      "Something went terribly wrong..."
+                                   << QString();
+    QTest::newRow("numerus") << 3 << ts << "The file contains:\n1 numerus cases." << QString();
+    QTest::newRow("braces correct") << 4 << QByteArray("<a><b></b></a>") << "The file's braces are correct."
+                                    << QString();
+    QTest::newRow("braces incorrect") << 4 << QByteArray("><") << "The file's braces are incorrect." << QString();
+    QTest::newRow("disabled with a path") << 5 << ts << "This feature is disabled." << QString();
+    QTest::newRow("unfinished") << 6 << ts << "2 strings are not translated yet." << QString();
+    QTest::newRow("fix on empty file") << 0 << QByteArray() << "An error occurred. The file could not be translated."
+                                       << QString();
+}
+
+void TestRegExpTest::modeMessages()
+{
+    QFETCH(int, mode);
+    QFETCH(QByteArray, content);
+    QFETCH(QString, message);
+    QFETCH(QString, outputSuffix);
+    const QString path = writeFile(QStringLiteral("sample.ts"), content);
+    TestRegExp dialog(nullptr);
+    start(dialog, mode, path);
+    QCOMPARE(feedback(dialog), message);
+    QCOMPARE(readBytes(path), content);
+    const QStringList written = QDir(m_dir->path()).entryList(QDir::Files);
+    if (outputSuffix.isEmpty()) {
+        QCOMPARE(written, QStringList({"sample.ts"}));
+    } else {
+        QCOMPARE(written.size(), 2);
+        QVERIFY(QFileInfo::exists(path + outputSuffix));
+    }
+    if (outputSuffix == QLatin1String(".swe"))
+        QVERIFY(QString::fromUtf8(readBytes(path + outputSuffix))
+                    .contains(QStringLiteral(">üØpee ffeele-æ</translation>")));
+}
+
+void TestRegExpTest::processingIsShownDuringWork()
+{
+    const QString path = writeFile(QStringLiteral("sample.ts"), "<source>Cancel</source><translation></translation>");
+    TestRegExp dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    PaintRecorder recorder(dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback")));
+    start(dialog, 1, path);
+    QVERIFY(recorder.painted.contains(QStringLiteral("Processing...")));
+    QCOMPARE(feedback(dialog), QStringLiteral("The file was translated successfully."));
+}
+
+void TestRegExpTest::fileDialogStartsAtPreviousFile()
+{
+    ScriptedTestRegExp dialog;
+    auto* choose = dialog.findChild<QPushButton*>(QStringLiteral("m_btnFileDialog"));
+    auto* path = dialog.findChild<QLabel*>(QStringLiteral("m_pathDisplay"));
+    dialog.answers = QStringList({"/data/ts/app_de.ts", QString(), "/other/file.cpp"});
+    QTest::mouseClick(choose, Qt::LeftButton);
+    QCOMPARE(path->text(), QStringLiteral("/data/ts/app_de.ts"));
+    QTest::mouseClick(choose, Qt::LeftButton); // cancelled
+    QCOMPARE(path->text(), QStringLiteral("/data/ts/app_de.ts"));
+    QTest::mouseClick(choose, Qt::LeftButton);
+    QCOMPARE(path->text(), QStringLiteral("/other/file.cpp"));
+    QCOMPARE(dialog.startDirectories, QStringList({"/home", "/data/ts", "/data/ts"}));
+}
+
+void TestRegExpTest::wholeProjectNeedsEnvironment()
+{
+    TestRegExp dialog(nullptr);
+    dialog.translateWholeProject();
+    QCOMPARE(feedback(dialog), QStringLiteral("The environment variable $VN_TRANSLATION_SOURCE_PATH$ is not set. "
+                                              "Set the variable first."));
+}
+
+void TestRegExpTest::wholeProjectSkipsLegacy()
+{
+    const QByteArray source = "void f() { x = tr(\"A\"); }\n";
+    const QString kept = writeFile(QStringLiteral("src/Main.cpp"), source);
+    const QString header = writeFile(QStringLiteral("src/sub/Widget.h"), source);
+    const QString legacy = writeFile(QStringLiteral("src/Legacy/Old.cpp"), source);
+    const QString nested = writeFile(QStringLiteral("src/mylegacy/deep/Old.h"), source);
+    const QString upper = writeFile(QStringLiteral("src/LEGACY/New.cpp"), source);
+    const QString other = writeFile(QStringLiteral("src/notes.txt"), source);
+    qputenv("VN_TRANSLATION_SOURCE_PATH", QFile::encodeName(m_dir->filePath(QStringLiteral("src"))));
+
+    TestRegExp dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    PaintRecorder recorder(dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback")));
+    dialog.translateWholeProject();
+    QCOMPARE(feedback(dialog), QStringLiteral("Replacing finished."));
+    QCOMPARE(readBytes(kept), QByteArray("void f() { x = QApplication::translate(\"Main\", \"A\"); }\n"));
+    QCOMPARE(readBytes(header), QByteArray("void f() { x = QApplication::translate(\"Widget\", \"A\"); }\n"));
+    QCOMPARE(readBytes(upper), QByteArray("void f() { x = QApplication::translate(\"New\", \"A\"); }\n"));
+    for (const QString& untouched : {legacy, nested, other})
+        QCOMPARE(readBytes(untouched), source);
+    for (const QString& file : {kept, header, upper})
+        QVERIFY2(recorder.painted.contains(QStringLiteral("Processing:\n") + file), qPrintable(file));
+}
+
+QTEST_MAIN(TestRegExpTest)
+#include "tst_testregexp.moc"

@@ -1,0 +1,251 @@
+#include "TranslationCommandLine.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextStream>
+
+namespace {
+struct Run
+{
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Run runInProcess(const QStringList& arguments)
+{
+    Run run;
+    QTextStream out(&run.out);
+    QTextStream err(&run.err);
+    run.exitCode = TranslationCommandLine(out, err).run(QStringList(QStringLiteral("twc-translate")) + arguments);
+    return run;
+}
+
+QByteArray readBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+}
+
+const QByteArray trSource = "void f() { x = tr(\"A\"); }\n";
+
+QByteArray rewritten(const char* context)
+{
+    return QByteArray("void f() { x = QApplication::translate(\"") + context + "\", \"A\"); }\n";
+}
+} // namespace
+
+class TwcTranslateTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void help();
+    void usageErrors_data();
+    void usageErrors();
+    void resultPerFile_data();
+    void resultPerFile();
+    void unreadableFileFails();
+    void writesOutputFiles();
+    void rewritesFilesInPlace();
+    void treeFromEnvironmentSkipsLegacy();
+    void treeNeedsDirectory();
+    void realProcessExitCodes();
+
+private:
+    QString writeFile(const QString& name, const QByteArray& content);
+    QScopedPointer<QTemporaryDir> m_dir;
+};
+
+void TwcTranslateTest::init()
+{
+    m_dir.reset(new QTemporaryDir);
+    qunsetenv("VN_TRANSLATION_SOURCE_PATH");
+}
+
+QString TwcTranslateTest::writeFile(const QString& name, const QByteArray& content)
+{
+    const QString path = m_dir->filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+void TwcTranslateTest::help()
+{
+    const Run run = runInProcess({QStringLiteral("--help")});
+    QCOMPARE(run.exitCode, 0);
+    for (const char* mode : {"fix", "mock", "count-braces", "count-numerus", "check-braces", "count-unfinished",
+                             "rewrite-tr", "--tree", "VN_TRANSLATION_SOURCE_PATH"})
+        QVERIFY2(run.out.contains(QLatin1String(mode)), mode);
+    QVERIFY(run.err.isEmpty());
+}
+
+void TwcTranslateTest::usageErrors_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("nothing") << QStringList() << "no mode given";
+    QTest::newRow("unknown mode") << QStringList({"translate", "a.ts"}) << "unknown mode \"translate\"";
+    QTest::newRow("no file") << QStringList({"count-braces"}) << "no FILE given";
+    QTest::newRow("unknown option") << QStringList({"fix", "--force", "a.ts"}) << "unknown option \"--force\"";
+    QTest::newRow("tree with another mode") << QStringList({"fix", "--tree"}) << "--tree goes right after rewrite-tr";
+    QTest::newRow("two tree roots") << QStringList({"rewrite-tr", "--tree", "a", "b"}) << "at most one DIR";
+    QTest::newRow("tree without root") << QStringList({"rewrite-tr", "--tree"}) << "VN_TRANSLATION_SOURCE_PATH";
+}
+
+void TwcTranslateTest::usageErrors()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, problem);
+    const Run run = runInProcess(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.contains(problem), qPrintable(run.err));
+    QVERIFY(run.err.contains(QStringLiteral("--help")));
+}
+
+void TwcTranslateTest::resultPerFile_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("first");
+    QTest::addColumn<QString>("second");
+    QTest::newRow("count-braces") << "count-braces"
+                                  << "The file contains:\n2 opening braces and \n2 closing braces."
+                                  << "The file contains:\n2 opening braces and \n3 closing braces.\n"
+                                     "Something went terribly wrong...";
+    QTest::newRow("check-braces") << "check-braces"
+                                  << "The file's braces are correct."
+                                  << "The file's braces are incorrect.";
+    QTest::newRow("count-numerus") << "count-numerus"
+                                   << "The file contains:\n0 numerus cases."
+                                   << "The file contains:\n1 numerus cases.";
+    QTest::newRow("count-unfinished") << "count-unfinished"
+                                      << "0 strings are not translated yet."
+                                      << "1 strings are not translated yet.";
+}
+
+void TwcTranslateTest::resultPerFile()
+{
+    QFETCH(QString, mode);
+    QFETCH(QString, first);
+    QFETCH(QString, second);
+    const QString a = writeFile(QStringLiteral("a.ts"), "<a><b>");
+    const QString b = writeFile(QStringLiteral("b.ts"), "<m numerus=\"yes\"><translation type=\"unfinished\">>");
+    const Run run = runInProcess({mode, a, b});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out, a + ":\n" + first + '\n' + b + ":\n" + second + '\n');
+    const Run single = runInProcess({mode, a});
+    QCOMPARE(single.out, first + '\n');
+}
+
+void TwcTranslateTest::unreadableFileFails()
+{
+    const QString good = writeFile(QStringLiteral("good.ts"), "<a>");
+    const QString missing = m_dir->filePath(QStringLiteral("missing.ts"));
+    const QString skipped = writeFile(QStringLiteral("rgWidget.ts"), "<a>");
+    const Run run = runInProcess({QStringLiteral("count-braces"), missing, good, skipped});
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.out.contains(good + ":\nThe file contains:\n1 opening braces and \n1 closing braces.\n"));
+    QVERIFY(run.err.contains(QStringLiteral("\"%1\" does not exist.").arg(missing)));
+    QVERIFY(run.err.contains(QStringLiteral("\"%1\" was skipped").arg(skipped)));
+    QVERIFY(!run.err.contains(good));
+}
+
+void TwcTranslateTest::writesOutputFiles()
+{
+    const QString ts = writeFile(QStringLiteral("app.ts"), "<source>Cancel</source><translation>x</translation>");
+    const Run fix = runInProcess({QStringLiteral("fix"), ts});
+    QCOMPARE(fix.exitCode, 0);
+    QCOMPARE(fix.out, QStringLiteral("Processing...\nThe file was translated successfully.\n"));
+    QCOMPARE(readBytes(ts + ".fix"), QByteArray("<source>Cancel</source><translation>x</translation>"));
+    const Run mock = runInProcess({QStringLiteral("mock"), ts});
+    QCOMPARE(mock.exitCode, 0);
+    QCOMPARE(readBytes(ts + ".swe"), QString("<source>Cancel</source><translation>üCåncel</translation>").toUtf8());
+
+    const QString empty = writeFile(QStringLiteral("empty.ts"), QByteArray());
+    const Run failed = runInProcess({QStringLiteral("mock"), empty});
+    QCOMPARE(failed.exitCode, 1);
+    QCOMPARE(failed.out, QStringLiteral("Processing...\nAn error occurred. The file could not be translated.\n"));
+    QVERIFY(failed.err.contains(QStringLiteral("is empty")));
+    QVERIFY(!QFileInfo::exists(empty + ".swe"));
+}
+
+void TwcTranslateTest::rewritesFilesInPlace()
+{
+    const QString first = writeFile(QStringLiteral("First.cpp"), trSource);
+    const QString second = writeFile(QStringLiteral("Second.h"), trSource);
+    const Run run = runInProcess({QStringLiteral("rewrite-tr"), first, second});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out, "Processing:\n" + first + "\nProcessing:\n" + second + "\nReplacing finished.\n");
+    QCOMPARE(readBytes(first), rewritten("First"));
+    QCOMPARE(readBytes(second), rewritten("Second"));
+
+    const QByteArray latin1 = "x = tr(\"K\xe4se\");\n";
+    const QString broken = writeFile(QStringLiteral("Broken.cpp"), latin1);
+    const Run refused = runInProcess({QStringLiteral("rewrite-tr"), broken});
+    QCOMPARE(refused.exitCode, 1);
+    QVERIFY(refused.err.contains(QStringLiteral("not valid UTF-8")));
+    QCOMPARE(readBytes(broken), latin1);
+}
+
+void TwcTranslateTest::treeFromEnvironmentSkipsLegacy()
+{
+    const QString kept = writeFile(QStringLiteral("src/Main.cpp"), trSource);
+    const QString legacy = writeFile(QStringLiteral("src/legacy/Old.cpp"), trSource);
+    const QString nested = writeFile(QStringLiteral("src/Legacy/x/Old.h"), trSource);
+    const QString upper = writeFile(QStringLiteral("src/LEGACY/Kept.h"), trSource);
+    writeFile(QStringLiteral("src/Empty.h"), QByteArray());
+    qputenv("VN_TRANSLATION_SOURCE_PATH", QFile::encodeName(m_dir->filePath(QStringLiteral("src"))));
+    const Run run = runInProcess({QStringLiteral("rewrite-tr"), QStringLiteral("--tree")});
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.out.contains("Processing:\n" + kept + '\n'));
+    QVERIFY(run.out.contains("Processing:\n" + upper + '\n'));
+    QVERIFY(!run.out.contains(legacy) && !run.out.contains(nested));
+    QVERIFY(run.out.endsWith(QStringLiteral("Replacing finished.\n")));
+    QCOMPARE(readBytes(kept), rewritten("Main"));
+    QCOMPARE(readBytes(upper), rewritten("Kept"));
+    QCOMPARE(readBytes(legacy), trSource);
+    QCOMPARE(readBytes(nested), trSource);
+}
+
+void TwcTranslateTest::treeNeedsDirectory()
+{
+    const QString root = writeFile(QStringLiteral("tree/One.cpp"), trSource);
+    const Run run = runInProcess({QStringLiteral("rewrite-tr"), QStringLiteral("--tree"), QFileInfo(root).path()});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(readBytes(root), rewritten("One"));
+
+    const QString missing = m_dir->filePath(QStringLiteral("nowhere"));
+    const Run failed = runInProcess({QStringLiteral("rewrite-tr"), QStringLiteral("--tree"), missing});
+    QCOMPARE(failed.exitCode, 1);
+    QVERIFY(failed.err.contains(QStringLiteral("\"%1\" is not a directory.").arg(missing)));
+}
+
+void TwcTranslateTest::realProcessExitCodes()
+{
+    const QString ts = writeFile(QStringLiteral("app.ts"), "<a>");
+    const auto exitCode = [](const QStringList& arguments, QByteArray* out = nullptr) {
+        QProcess process;
+        process.start(QStringLiteral(TWC_TRANSLATE_EXECUTABLE), arguments);
+        if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit)
+            return -1;
+        if (out)
+            *out = process.readAllStandardOutput();
+        return process.exitCode();
+    };
+    QByteArray out;
+    QCOMPARE(exitCode({QStringLiteral("check-braces"), ts}, &out), 0);
+    QCOMPARE(out, QByteArray("The file's braces are correct.\n"));
+    QCOMPARE(exitCode({QStringLiteral("check-braces"), m_dir->filePath(QStringLiteral("gone.ts"))}), 1);
+    QCOMPARE(exitCode({QStringLiteral("bogus")}), 2);
+    QCOMPARE(exitCode({QStringLiteral("--help")}), 0);
+}
+
+QTEST_MAIN(TwcTranslateTest)
+#include "tst_twctranslate.moc"

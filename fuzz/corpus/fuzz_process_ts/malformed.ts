@@ -1,0 +1,1 @@
+<source>no end</source><translation>open <source>again</source>

@@ -1,0 +1,1 @@
+<TS><context><message><source>Information</source><comment>c</comment><translation type="obsolete">old</translation></message><message><source>   </source><translation>x</translation></message></context></TS>

@@ -1,0 +1,1 @@
+<message numerus="yes"><source>%n file(s)</source><translation type="unfinished"><numerusform></numerusform></translation></message>

@@ -1,0 +1,1 @@
+<source>Cancel</source><translation></translation>

@@ -1,0 +1,17 @@
+// Fuzzes TranslationFileTool::mockSwedish() against the reference transformation.
+#include "FuzzSupport.h"
+#include "TranslationFileTool.h"
+#include "TranslationOracle.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    const QString source = textOf(data, size);
+    const QString result = TranslationFileTool().mockSwedish(source);
+    if (source.isEmpty() || source.contains(QLatin1String("html"), Qt::CaseInsensitive))
+        FUZZ_CHECK(result == source);
+    else
+        FUZZ_CHECK(result.startsWith(QStringLiteral("ü")));
+    if (size <= oracleLimit)
+        FUZZ_CHECK(result == TranslationOracle::mockSwedish(source));
+    return 0;
+}

@@ -1,0 +1,19 @@
+// Fuzzes TranslationFileTool::processTsContent(): the first byte picks the mode (fix tags, mock
+// Swedish or an unknown one), the rest is the .ts content.
+#include "FuzzSupport.h"
+#include "TranslationFileTool.h"
+#include "TranslationOracle.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    if (size == 0)
+        return 0;
+    const int mode = data[0] % 3;
+    const QString content = textOf(data + 1, size - 1);
+    const QString result = TranslationFileTool().processTsContent(content, mode);
+    if (mode == 2 || !content.contains(QLatin1String("<source>")))
+        FUZZ_CHECK(result == content);
+    if (mode != 2 && size <= oracleLimit)
+        FUZZ_CHECK(result == TranslationOracle::processTsContent(content, mode));
+    return 0;
+}

@@ -1,0 +1,163 @@
+#include "TranslationCommandLine.h"
+
+#include "TranslationFileTool.h"
+#include "TranslationMessages.h"
+#include "TranslationRunner.h"
+
+#include <QTextStream>
+
+#include <utility>
+
+namespace {
+const QLatin1String programName("twc-translate");
+const QLatin1String rewriteMode("rewrite-tr");
+const QLatin1String treeOption("--tree");
+
+// The modes in the order of the dialog's list; rewrite-tr stands for its whole-project entry.
+const std::pair<QLatin1String, int> fileModes[] = {
+    {QLatin1String("fix"), TranslationRunner::FixTags},
+    {QLatin1String("mock"), TranslationRunner::MockSwedish},
+    {QLatin1String("count-braces"), TranslationRunner::CountBraces},
+    {QLatin1String("count-numerus"), TranslationRunner::CountNumerus},
+    {QLatin1String("check-braces"), TranslationRunner::CheckBraces},
+    {QLatin1String("count-unfinished"), TranslationRunner::CountUnfinished},
+};
+
+int operationOf(const QString& mode)
+{
+    for (const auto& entry : fileModes) {
+        if (mode == entry.first)
+            return entry.second;
+    }
+    return -1;
+}
+} // namespace
+
+TranslationCommandLine::TranslationCommandLine(QTextStream& out, QTextStream& err)
+    : m_out(out)
+    , m_err(err)
+{}
+
+QString TranslationCommandLine::helpText()
+{
+    return QStringLiteral(
+        "Usage: twc-translate MODE FILE...\n"
+        "       twc-translate rewrite-tr --tree [DIR]\n"
+        "\n"
+        "Runs the mock-translation tool on translation (.ts), header and source files and prints\n"
+        "the texts that the translation dialog (\"Reg Exp\") shows, one result per file.\n"
+        "\n"
+        "Modes:\n"
+        "  fix               repair the translation tags of a .ts file; writes FILE.fix\n"
+        "  mock              fill the translations of a .ts file with mock Swedish; writes FILE.swe\n"
+        "  count-braces      count the opening '<' and closing '>' angle brackets\n"
+        "  count-numerus     count the numerus entries (numerus=\"yes\")\n"
+        "  check-braces      check that the angle brackets balance\n"
+        "  count-unfinished  count the unfinished translations\n"
+        "  rewrite-tr        rewrite every tr( call of each FILE into QApplication::translate( with\n"
+        "                    the file's base name as context; each FILE is rewritten in place\n"
+        "  rewrite-tr --tree [DIR]\n"
+        "                    rewrite every .h and .cpp file below DIR, or below the directory in\n"
+        "                    $VN_TRANSLATION_SOURCE_PATH; directories whose path contains \"legacy\"\n"
+        "                    or \"Legacy\" are skipped, symbolic links are not followed\n"
+        "\n"
+        "Files whose names start with \"Rg\" or \"rg\" are never read.\n"
+        "\n"
+        "Options:\n"
+        "  -h, --help        show this text\n"
+        "\n"
+        "Exit status: 0 when every file was processed, 1 when a file could not be processed,\n"
+        "2 on a usage error.\n");
+}
+
+int TranslationCommandLine::run(const QStringList& arguments)
+{
+    const QStringList rest = arguments.mid(1);
+    if (rest.isEmpty())
+        return usageError(QStringLiteral("no mode given."));
+    const QString& mode = rest.first();
+    if (mode == QLatin1String("--help") || mode == QLatin1String("-h")) {
+        m_out << helpText();
+        m_out.flush();
+        return Success;
+    }
+    if (mode == rewriteMode && rest.value(1) == treeOption)
+        return runOnTree(rest.mid(2));
+    if (mode != rewriteMode && operationOf(mode) < 0)
+        return usageError(QStringLiteral("unknown mode \"%1\".").arg(mode));
+
+    QStringList files;
+    bool optionsEnded = false;
+    for (const QString& argument : rest.mid(1)) {
+        if (!optionsEnded && argument == QLatin1String("--")) {
+            optionsEnded = true;
+        } else if (!optionsEnded && argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
+            return usageError(argument == treeOption ? QStringLiteral("--tree goes right after rewrite-tr.")
+                                                     : QStringLiteral("unknown option \"%1\".").arg(argument));
+        } else {
+            files << argument;
+        }
+    }
+    if (files.isEmpty())
+        return usageError(QStringLiteral("no FILE given."));
+    return runOnFiles(mode, files);
+}
+
+int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& files)
+{
+    const TranslationFileTool tool;
+    const TranslationRunner runner(tool, [this](const QString& message) { print(message); });
+    int exitCode = Success;
+    for (const QString& file : files) {
+        if (files.size() > 1 && mode != rewriteMode)
+            print(file + QLatin1Char(':'));
+        const TranslationRunner::Result result =
+            mode == rewriteMode ? runner.rewriteFile(file) : runner.runOnFile(operationOf(mode), file);
+        if (!result.message.isEmpty())
+            print(result.message);
+        if (!result.succeeded) {
+            m_err << programName << ": " << result.problem << '\n';
+            m_err.flush();
+            exitCode = FileFailed;
+        }
+    }
+    if (mode == rewriteMode)
+        print(TranslationMessages::replacingFinished());
+    return exitCode;
+}
+
+int TranslationCommandLine::runOnTree(const QStringList& arguments)
+{
+    if (arguments.size() > 1)
+        return usageError(QStringLiteral("rewrite-tr --tree takes at most one DIR."));
+    const TranslationFileTool tool;
+    const TranslationRunner runner(tool, [this](const QString& message) { print(message); });
+    const QString root = arguments.value(0);
+    if (root.isEmpty() && TranslationFileTool::sourceRootFromEnvironment().isEmpty()) {
+        print(TranslationMessages::sourcePathNotSet());
+        return usageError(QStringLiteral("give DIR or set VN_TRANSLATION_SOURCE_PATH."));
+    }
+    const TranslationRunner::Result result = root.isEmpty() ? runner.rewriteWholeProject() : runner.rewriteTree(root);
+    print(result.message);
+    if (result.succeeded)
+        return Success;
+    m_err << programName << ": " << result.problem << '\n';
+    m_err.flush();
+    return FileFailed;
+}
+
+int TranslationCommandLine::usageError(const QString& problem)
+{
+    m_err << programName << ": " << problem << '\n'
+          << "Usage: twc-translate MODE FILE... | twc-translate rewrite-tr --tree [DIR]\n"
+          << "Modes: fix, mock, count-braces, count-numerus, check-braces, count-unfinished, rewrite-tr.\n"
+          << "Try \"twc-translate --help\" for more.\n";
+    m_err.flush();
+    return UsageError;
+}
+
+void TranslationCommandLine::print(const QString& message)
+{
+    m_out << message << '\n';
+    m_out.flush();
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+class TranslationFileTool;
+
+// Runs one operation of the translation tool and words its outcome, for the dialog and for the
+// command line alike.
+class TranslationRunner
+{
+public:
+    // In the order of the dialog's mode list.
+    enum Operation
+    {
+        FixTags = 0,
+        MockSwedish = 1,
+        CountBraces = 2,
+        CountNumerus = 3,
+        CheckBraces = 4,
+        RewriteWholeProject = 5,
+        CountUnfinished = 6
+    };
+
+    // Receives the progress texts ("Processing...", "Processing:\n<path>") before the work starts.
+    using Progress = std::function<void(const QString& message)>;
+
+    struct Result
+    {
+        QString message; // what the dialog shows
+        bool succeeded = true;
+        QString problem; // why a file could not be processed, one line per file
+    };
+
+    explicit TranslationRunner(const TranslationFileTool& tool, Progress progress = Progress());
+
+    // Runs an operation on one file; any operation but the counts, the brace check and mock
+    // Swedish fixes the tags, as the dialog does. Never rewrites a tree.
+    Result runOnFile(int operation, const QString& filePath) const;
+    // Rewrites the tr( calls of one header or source file in place; the message stays empty.
+    Result rewriteFile(const QString& filePath) const;
+    // Rewrites every header and source file below root, skipping legacy directories.
+    Result rewriteTree(const QString& root) const;
+    // rewriteTree() from $VN_TRANSLATION_SOURCE_PATH.
+    Result rewriteWholeProject() const;
+
+    // Why the file cannot be read, or an empty string when it can.
+    static QString readProblem(const QString& filePath);
+
+private:
+    void report(const QString& message) const;
+    Result count(int operation, const QString& filePath) const;
+    Result translate(int mode, const QString& filePath) const;
+
+    const TranslationFileTool& m_tool;
+    Progress m_progress;
+};
