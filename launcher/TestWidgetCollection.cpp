@@ -2,7 +2,11 @@
 
 #include "Loupe.h"
 #include "QtTraining.h"
+#include "TestAlignment.h"
+#include "TestColorDisplay.h"
 #include "TestVNMessageBox.h"
+#include "TestValueFields.h"
+#include "TestVirtualSlider.h"
 
 #include <DebugStateInfo.h>
 #include <DebugStyleSheet.h>
@@ -122,13 +126,19 @@ void TestWidgetCollection::on_testPathShortener_clicked() {}
 
 void TestWidgetCollection::on_testComboBox_clicked() {}
 
-void TestWidgetCollection::on_testValueFields_clicked() {}
+void TestWidgetCollection::on_testValueFields_clicked()
+{
+    showCached(m_testValueFields, this);
+}
 
 void TestWidgetCollection::on_testComposePixmap_clicked() {}
 
 void TestWidgetCollection::on_testFlipWidget_clicked() {}
 
-void TestWidgetCollection::on_testColorDisplay_clicked() {}
+void TestWidgetCollection::on_testColorDisplay_clicked()
+{
+    showCached(m_testColorDisplay, this);
+}
 
 void TestWidgetCollection::on_m_testRegExp_clicked() {}
 
@@ -185,11 +195,17 @@ void TestWidgetCollection::on_m_progressTest_clicked() {}
 
 void TestWidgetCollection::on_m_converterTest_clicked() {}
 
-void TestWidgetCollection::on_m_testAlignment_clicked() {}
+void TestWidgetCollection::on_m_testAlignment_clicked()
+{
+    showCached(m_testAlignment, this);
+}
 
 void TestWidgetCollection::on_m_testVNMessageBox_clicked()
 {
     showCached(m_testMessageBox, this);
 }
 
-void TestWidgetCollection::on_m_testVirtualSlider_clicked() {}
+void TestWidgetCollection::on_m_testVirtualSlider_clicked()
+{
+    showCached(m_testVirtualSlider, this);
+}

@@ -1,8 +1,7 @@
 #include "VNLabel.h"
 
+#include "VNFormatter.h"
 #include "VNWidgetStatus.h"
-
-#include <QLocale>
 
 const QString VNLabel::unitPlaceholder = QStringLiteral("_UNIT_");
 
@@ -31,9 +30,12 @@ void VNLabel::setUnitText(const QString& pattern)
 
 void VNLabel::setUnitValue(double value, const QString& unit)
 {
+    if (m_unitText.isEmpty())
+        m_unitText = text().contains(unitPlaceholder) ? text() : unitPlaceholder;
     m_hasUnitValue = true;
     m_unitValue = value;
     m_unit = unit;
+    formatter()->setValueUnit(unit);
     showUnitText();
 }
 
@@ -44,15 +46,24 @@ void VNLabel::clearUnitValue()
     showUnitText();
 }
 
+VNFormatter* VNLabel::formatter()
+{
+    if (!m_formatter) {
+        m_formatter = new VNFormatter(this);
+        connect(m_formatter, &VNFormatter::settingsChanged, this, &VNLabel::showUnitText);
+    }
+    return m_formatter;
+}
+
 void VNLabel::showUnitText()
 {
     if (m_unitText.isEmpty())
         return;
     QString valueText;
     if (m_hasUnitValue)
-        valueText = QLocale().toString(m_unitValue, 'g', 10);
-    if (!m_unit.isEmpty())
-        valueText = valueText.isEmpty() ? m_unit : valueText + QLatin1Char(' ') + m_unit;
+        valueText = formatter()->textFromValue(m_unitValue, true);
+    else if (!m_unit.isEmpty())
+        valueText = m_unit;
     QString shown = m_unitText;
     setText(shown.replace(unitPlaceholder, valueText));
 }
