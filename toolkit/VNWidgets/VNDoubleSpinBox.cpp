@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionSpinBox>
@@ -37,10 +38,15 @@ int charactersOf(VNDoubleSpinBox::InputFieldSize size)
     }
 }
 
-void registerInputFieldSize()
+// Forms set the width class by name; buddy signals carry the field.
+void registerMetaTypes()
 {
-    static const int id = qRegisterMetaType<VNDoubleSpinBox::InputFieldSize>("VNDoubleSpinBox::InputFieldSize");
-    Q_UNUSED(id)
+    static const bool registered = [] {
+        qRegisterMetaType<VNDoubleSpinBox::InputFieldSize>("VNDoubleSpinBox::InputFieldSize");
+        qRegisterMetaType<VNDoubleSpinBox*>();
+        return true;
+    }();
+    Q_UNUSED(registered)
 }
 } // namespace
 
@@ -49,9 +55,12 @@ VNDoubleSpinBox::VNDoubleSpinBox(QWidget* parent)
     , VNWidgetInterface(this)
     , m_formatter(new VNFormatter(this))
 {
-    registerInputFieldSize();
+    registerMetaTypes();
     m_defaultSizePolicy = sizePolicy();
     QDoubleSpinBox::setDecimals(baseDecimals);
+    // Values are taken when an edit ends: on the way to "1 cm" the text reads "1", which must not
+    // become a value of one display unit.
+    setKeyboardTracking(false);
     lineEdit()->installEventFilter(this);
     connect(m_formatter, &VNFormatter::settingsChanged, this, &VNDoubleSpinBox::refreshText);
     connect(this, &QDoubleSpinBox::textChanged, this, [this] {
@@ -480,8 +489,16 @@ QString VNDoubleSpinBox::numberText(const QString& text) const
 
 double VNDoubleSpinBox::parse(const QString& text, bool* ok) const
 {
-    const double shown = m_formatter->displayValueFromText(numberText(text), ok);
-    return *ok ? fromDisplay(shown * m_factor) : value();
+    const QString number = numberText(text);
+    // A plain number is what the field shows: display unit times factor.
+    double shown = QLocale().toDouble(number, ok);
+    if (!*ok)
+        shown = QLocale::c().toDouble(number, ok);
+    if (*ok && qIsFinite(shown))
+        return fromDisplay(shown);
+    // A number with a unit is a quantity of its own, which the factor does not scale.
+    const double quantity = m_formatter->valueFromText(number, ok);
+    return *ok ? quantity : value();
 }
 
 double VNDoubleSpinBox::steppedValue(double start, double steps, double step) const
@@ -549,7 +566,7 @@ int VNDoubleSpinBox::sigmaMarkerWidth() const
 {
     if (!isSigmaEnabled() && !isSigmaActive())
         return 0;
-    return QFontMetrics(font()).horizontalAdvance(sigmaSign) + 6;
+    return QFontMetrics(font()).horizontalAdvance(sigmaSign) + 9;
 }
 
 void VNDoubleSpinBox::paintSigmaMarker(QWidget* edit)
@@ -557,7 +574,7 @@ void VNDoubleSpinBox::paintSigmaMarker(QWidget* edit)
     QPainter painter(edit);
     painter.setRenderHint(QPainter::Antialiasing);
     const int width = sigmaMarkerWidth();
-    const QRect marker(1, 2, width - 2, edit->height() - 4);
+    const QRect marker(1, 2, width - 4, edit->height() - 4);
     QFont bold = edit->font();
     bold.setBold(isSigmaActive());
     painter.setFont(bold);
