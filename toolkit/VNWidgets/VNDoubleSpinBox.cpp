@@ -28,11 +28,11 @@ int charactersOf(VNDoubleSpinBox::InputFieldSize size)
 {
     switch (size) {
     case VNDoubleSpinBox::Small:
-        return 7;
+        return 9;
     case VNDoubleSpinBox::Medium:
-        return 11;
+        return 13;
     case VNDoubleSpinBox::Large:
-        return 16;
+        return 18;
     default:
         return 0;
     }
