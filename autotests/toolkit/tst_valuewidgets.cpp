@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QLocale>
+#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -31,6 +32,8 @@ private slots:
     void valueEditKeepsUnreadableText();
     void labelShowsUnitValueThroughFormatter();
     void labelUsesOwnTextAsPattern();
+    void labelSlidesItsBuddy();
+    void valueEditStepsWithArrowKeys();
     void colorDisplayPaintsOneOrTwoSides();
     void colorDisplayDisabledLook();
 };
@@ -175,6 +178,51 @@ void TestValueWidgets::labelUsesOwnTextAsPattern()
     VNLabel plain("plain");
     plain.setUnitValue(3.0, "m");
     QCOMPARE(plain.text(), QStringLiteral("3.00 m"));
+}
+
+void TestValueWidgets::labelSlidesItsBuddy()
+{
+    auto drag = [](QWidget* label, int distance) {
+        auto send = [label](QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons) {
+            QMouseEvent event(type, position, label->mapToGlobal(position), button, buttons, Qt::NoModifier);
+            QApplication::sendEvent(label, &event);
+        };
+        send(QEvent::MouseButtonPress, QPoint(10, 5), Qt::LeftButton, Qt::LeftButton);
+        send(QEvent::MouseMove, QPoint(10 + distance, 6), Qt::NoButton, Qt::LeftButton);
+        send(QEvent::MouseButtonRelease, QPoint(10 + distance, 6), Qt::LeftButton, Qt::NoButton);
+    };
+    VNLabel label("V-SliderLabel");
+    VNValueEdit edit;
+    label.setBuddy(&edit);
+    QSignalSpy changed(&edit, &VNValueEdit::valueChanged);
+    drag(&label, 20);
+    QCOMPARE(edit.value(), 5.0);
+    QVERIFY(!changed.isEmpty());
+
+    VNDoubleSpinBox field;
+    field.setSingleStep(0.5);
+    label.setBuddy(&field);
+    QSignalSpy finished(&field, &QAbstractSpinBox::editingFinished);
+    drag(&label, 40);
+    QCOMPARE(field.value(), 5.0);
+    QCOMPARE(finished.count(), 1);
+    drag(&label, -8);
+    QCOMPARE(field.value(), 4.0);
+
+    // A disabled buddy is not moved.
+    field.setEnabled(false);
+    drag(&label, 40);
+    QCOMPARE(field.value(), 4.0);
+}
+
+void TestValueWidgets::valueEditStepsWithArrowKeys()
+{
+    VNValueEdit edit;
+    edit.setSingleStep(0.25);
+    QTest::keyClick(&edit, Qt::Key_Up);
+    QTest::keyClick(&edit, Qt::Key_Up);
+    QTest::keyClick(&edit, Qt::Key_Down);
+    QCOMPARE(edit.value(), 0.25);
 }
 
 void TestValueWidgets::colorDisplayPaintsOneOrTwoSides()

@@ -1,7 +1,15 @@
 #include "VNLabel.h"
 
+#include "VNDoubleSpinBox.h"
 #include "VNFormatter.h"
+#include "VNValueEdit.h"
 #include "VNWidgetStatus.h"
+
+#include <QMouseEvent>
+
+namespace {
+constexpr int pixelsPerStep = 4;
+} // namespace
 
 const QString VNLabel::unitPlaceholder = QStringLiteral("_UNIT_");
 
@@ -92,4 +100,74 @@ void VNLabel::showIcon()
     QPixmap pixmap = m_icon.pixmap(m_iconSize * ratio);
     pixmap.setDevicePixelRatio(ratio);
     setPixmap(pixmap);
+}
+
+bool VNLabel::hasSlidableBuddy() const
+{
+    QWidget* target = buddy();
+    return target && target->isEnabled() &&
+           (qobject_cast<VNDoubleSpinBox*>(target) || qobject_cast<VNValueEdit*>(target));
+}
+
+void VNLabel::enterEvent(QEvent* event)
+{
+    // The cursor tells that the label can be dragged.
+    if (hasSlidableBuddy())
+        setCursor(Qt::SizeHorCursor);
+    else
+        unsetCursor();
+    QLabel::enterEvent(event);
+}
+
+void VNLabel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && hasSlidableBuddy()) {
+        m_sliding = true;
+        m_slideStartX = event->globalPos().x();
+        m_slidSteps = 0;
+        event->accept();
+        return;
+    }
+    QLabel::mousePressEvent(event);
+}
+
+void VNLabel::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_sliding) {
+        QLabel::mouseMoveEvent(event);
+        return;
+    }
+    const int steps = (event->globalPos().x() - m_slideStartX) / pixelsPerStep;
+    if (steps != m_slidSteps) {
+        stepBuddy(steps - m_slidSteps);
+        m_slidSteps = steps;
+    }
+}
+
+void VNLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_sliding || event->button() != Qt::LeftButton) {
+        QLabel::mouseReleaseEvent(event);
+        return;
+    }
+    m_sliding = false;
+    if (m_slidSteps != 0)
+        finishBuddyEdit();
+}
+
+void VNLabel::stepBuddy(int steps)
+{
+    if (auto* field = qobject_cast<VNDoubleSpinBox*>(buddy()))
+        field->stepBy(steps);
+    else if (auto* edit = qobject_cast<VNValueEdit*>(buddy()))
+        edit->stepBy(steps);
+}
+
+void VNLabel::finishBuddyEdit()
+{
+    // A slide ends an edit of the buddy, as Enter in the buddy itself would.
+    if (auto* field = qobject_cast<VNDoubleSpinBox*>(buddy()))
+        emit field->editingFinished();
+    else if (auto* edit = qobject_cast<VNValueEdit*>(buddy()))
+        emit edit->editingFinished();
 }

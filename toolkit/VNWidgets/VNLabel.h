@@ -13,6 +13,9 @@ class VNFormatter;
 // A unit value is formatted by the label's VNFormatter: the value is given in its unit and shown
 // in the formatter's display unit with its decimals. Without a pattern, the label's own text
 // serves as pattern when it holds "_UNIT_", else the value and unit are shown alone.
+//
+// A label whose buddy is a value field (VNDoubleSpinBox or VNValueEdit) works as a virtual slider
+// for it: dragging sideways over the label steps the buddy's value, one step per few pixels.
 class VNWIDGETS_EXPORT VNLabel : public QLabel
 {
     Q_OBJECT
@@ -47,7 +50,17 @@ public:
 signals:
     void isHeaderChanged(bool header);
 
+protected:
+    void enterEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
 private:
+    bool hasSlidableBuddy() const;
+    void stepBuddy(int steps);
+    void finishBuddyEdit();
+
     void showUnitText();
     void showIcon();
 
@@ -59,4 +72,7 @@ private:
     VNFormatter* m_formatter = nullptr;
     QIcon m_icon;
     QSize m_iconSize = QSize(16, 16);
+    bool m_sliding = false;
+    int m_slideStartX = 0;
+    int m_slidSteps = 0;
 };

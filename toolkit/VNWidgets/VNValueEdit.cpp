@@ -2,6 +2,8 @@
 
 #include "VNFormatter.h"
 
+#include <QKeyEvent>
+
 VNValueEdit::VNValueEdit(QWidget* parent)
     : QLineEdit(parent)
     , VNWidgetInterface(this)
@@ -23,6 +25,30 @@ void VNValueEdit::setValue(double value)
     m_value = value;
     showValue();
     emit valueChanged(value);
+}
+
+void VNValueEdit::setSingleStep(double step)
+{
+    if (step == m_singleStep)
+        return;
+    m_singleStep = step;
+    emit singleStepChanged(step);
+}
+
+void VNValueEdit::stepBy(int steps)
+{
+    if (isReadOnly())
+        return;
+    setValue(m_value + steps * m_singleStep);
+}
+
+void VNValueEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {
+        stepBy(event->key() == Qt::Key_Up ? 1 : -1);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
 }
 
 void VNValueEdit::takeTypedText()

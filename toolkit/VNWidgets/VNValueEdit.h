@@ -16,6 +16,7 @@ class VNWIDGETS_EXPORT VNValueEdit : public QLineEdit, public VNWidgetInterface
     Q_OBJECT
     Q_PROPERTY(double value READ value WRITE setValue NOTIFY valueChanged USER true)
     Q_PROPERTY(bool inputError READ hasInputError)
+    Q_PROPERTY(double singleStep READ singleStep WRITE setSingleStep NOTIFY singleStepChanged)
 
 public:
     explicit VNValueEdit(QWidget* parent = nullptr);
@@ -26,8 +27,17 @@ public:
     void setValue(double value);
     bool hasInputError() const { return m_inputError; }
 
+    // The step of the arrow keys and of a virtual slider, in the value unit.
+    double singleStep() const { return m_singleStep; }
+    void setSingleStep(double step);
+    void stepBy(int steps);
+
 signals:
     void valueChanged(double value);
+    void singleStepChanged(double step);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void takeTypedText();
@@ -36,6 +46,7 @@ private:
 
     VNFormatter* m_formatter;
     double m_value = 0.0;
+    double m_singleStep = 1.0;
     bool m_inputError = false;
     QString m_plainToolTip;
 };
