@@ -2,9 +2,13 @@
 
 #include "Loupe.h"
 #include "QtTraining.h"
-#include "TestStringReducer.h"
+#include "TestAlignment.h"
+#include "TestColorDisplay.h"
 #include "TestRegExp.h"
+#include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
+#include "TestValueFields.h"
+#include "TestVirtualSlider.h"
 #include "TestVisualizePointsControl.h"
 
 #include <DebugStateInfo.h>
@@ -131,13 +135,19 @@ void TestWidgetCollection::on_testPathShortener_clicked()
 
 void TestWidgetCollection::on_testComboBox_clicked() {}
 
-void TestWidgetCollection::on_testValueFields_clicked() {}
+void TestWidgetCollection::on_testValueFields_clicked()
+{
+    showCached(m_testValueFields, this);
+}
 
 void TestWidgetCollection::on_testComposePixmap_clicked() {}
 
 void TestWidgetCollection::on_testFlipWidget_clicked() {}
 
-void TestWidgetCollection::on_testColorDisplay_clicked() {}
+void TestWidgetCollection::on_testColorDisplay_clicked()
+{
+    showCached(m_testColorDisplay, this);
+}
 
 void TestWidgetCollection::on_m_testRegExp_clicked()
 {
@@ -197,11 +207,17 @@ void TestWidgetCollection::on_m_progressTest_clicked() {}
 
 void TestWidgetCollection::on_m_converterTest_clicked() {}
 
-void TestWidgetCollection::on_m_testAlignment_clicked() {}
+void TestWidgetCollection::on_m_testAlignment_clicked()
+{
+    showCached(m_testAlignment, this);
+}
 
 void TestWidgetCollection::on_m_testVNMessageBox_clicked()
 {
     showCached(m_testMessageBox, this);
 }
 
-void TestWidgetCollection::on_m_testVirtualSlider_clicked() {}
+void TestWidgetCollection::on_m_testVirtualSlider_clicked()
+{
+    showCached(m_testVirtualSlider, this);
+}

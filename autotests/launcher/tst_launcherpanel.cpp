@@ -263,6 +263,14 @@ void LauncherPanelTest::cachedWindows_data()
                              << "TestRegExp";
     QTest::newRow("message box test") << "m_testVNMessageBox"
                                       << "TestVNMessageBox";
+    QTest::newRow("value fields test") << "testValueFields"
+                                       << "TestValueFields";
+    QTest::newRow("colour display test") << "testColorDisplay"
+                                         << "TestColorDisplay";
+    QTest::newRow("alignment test") << "m_testAlignment"
+                                    << "TestAlignment";
+    QTest::newRow("virtual slider test") << "m_testVirtualSlider"
+                                         << "TestVirtualSlider";
 }
 
 void LauncherPanelTest::cachedWindows()

@@ -1,8 +1,15 @@
 #include "VNLabel.h"
 
+#include "VNDoubleSpinBox.h"
+#include "VNFormatter.h"
+#include "VNValueEdit.h"
 #include "VNWidgetStatus.h"
 
-#include <QLocale>
+#include <QMouseEvent>
+
+namespace {
+constexpr int pixelsPerStep = 4;
+} // namespace
 
 const QString VNLabel::unitPlaceholder = QStringLiteral("_UNIT_");
 
@@ -31,9 +38,12 @@ void VNLabel::setUnitText(const QString& pattern)
 
 void VNLabel::setUnitValue(double value, const QString& unit)
 {
+    if (m_unitText.isEmpty())
+        m_unitText = text().contains(unitPlaceholder) ? text() : unitPlaceholder;
     m_hasUnitValue = true;
     m_unitValue = value;
     m_unit = unit;
+    formatter()->setValueUnit(unit);
     showUnitText();
 }
 
@@ -44,15 +54,24 @@ void VNLabel::clearUnitValue()
     showUnitText();
 }
 
+VNFormatter* VNLabel::formatter()
+{
+    if (!m_formatter) {
+        m_formatter = new VNFormatter(this);
+        connect(m_formatter, &VNFormatter::settingsChanged, this, &VNLabel::showUnitText);
+    }
+    return m_formatter;
+}
+
 void VNLabel::showUnitText()
 {
     if (m_unitText.isEmpty())
         return;
     QString valueText;
     if (m_hasUnitValue)
-        valueText = QLocale().toString(m_unitValue, 'g', 10);
-    if (!m_unit.isEmpty())
-        valueText = valueText.isEmpty() ? m_unit : valueText + QLatin1Char(' ') + m_unit;
+        valueText = formatter()->textFromValue(m_unitValue, true);
+    else if (!m_unit.isEmpty())
+        valueText = m_unit;
     QString shown = m_unitText;
     setText(shown.replace(unitPlaceholder, valueText));
 }
@@ -81,4 +100,74 @@ void VNLabel::showIcon()
     QPixmap pixmap = m_icon.pixmap(m_iconSize * ratio);
     pixmap.setDevicePixelRatio(ratio);
     setPixmap(pixmap);
+}
+
+bool VNLabel::hasSlidableBuddy() const
+{
+    QWidget* target = buddy();
+    return target && target->isEnabled() &&
+           (qobject_cast<VNDoubleSpinBox*>(target) || qobject_cast<VNValueEdit*>(target));
+}
+
+void VNLabel::enterEvent(QEvent* event)
+{
+    // The cursor tells that the label can be dragged.
+    if (hasSlidableBuddy())
+        setCursor(Qt::SizeHorCursor);
+    else
+        unsetCursor();
+    QLabel::enterEvent(event);
+}
+
+void VNLabel::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && hasSlidableBuddy()) {
+        m_sliding = true;
+        m_slideStartX = event->globalPos().x();
+        m_slidSteps = 0;
+        event->accept();
+        return;
+    }
+    QLabel::mousePressEvent(event);
+}
+
+void VNLabel::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_sliding) {
+        QLabel::mouseMoveEvent(event);
+        return;
+    }
+    const int steps = (event->globalPos().x() - m_slideStartX) / pixelsPerStep;
+    if (steps != m_slidSteps) {
+        stepBuddy(steps - m_slidSteps);
+        m_slidSteps = steps;
+    }
+}
+
+void VNLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (!m_sliding || event->button() != Qt::LeftButton) {
+        QLabel::mouseReleaseEvent(event);
+        return;
+    }
+    m_sliding = false;
+    if (m_slidSteps != 0)
+        finishBuddyEdit();
+}
+
+void VNLabel::stepBuddy(int steps)
+{
+    if (auto* field = qobject_cast<VNDoubleSpinBox*>(buddy()))
+        field->stepBy(steps);
+    else if (auto* edit = qobject_cast<VNValueEdit*>(buddy()))
+        edit->stepBy(steps);
+}
+
+void VNLabel::finishBuddyEdit()
+{
+    // A slide ends an edit of the buddy, as Enter in the buddy itself would.
+    if (auto* field = qobject_cast<VNDoubleSpinBox*>(buddy()))
+        emit field->editingFinished();
+    else if (auto* edit = qobject_cast<VNValueEdit*>(buddy()))
+        emit edit->editingFinished();
 }

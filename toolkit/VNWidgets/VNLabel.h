@@ -5,8 +5,17 @@
 #include <QIcon>
 #include <QLabel>
 
+class VNFormatter;
+
 // A label in the toolkit's look. It can be a section header, show a value with its unit inside a
 // text pattern ("_UNIT_" stands for the value), or show an icon at a chosen size.
+//
+// A unit value is formatted by the label's VNFormatter: the value is given in its unit and shown
+// in the formatter's display unit with its decimals. Without a pattern, the label's own text
+// serves as pattern when it holds "_UNIT_", else the value and unit are shown alone.
+//
+// A label whose buddy is a value field (VNDoubleSpinBox or VNValueEdit) works as a virtual slider
+// for it: dragging sideways over the label steps the buddy's value, one step per few pixels.
 class VNWIDGETS_EXPORT VNLabel : public QLabel
 {
     Q_OBJECT
@@ -28,6 +37,8 @@ public:
     bool hasUnitValue() const { return m_hasUnitValue; }
     double unitValue() const { return m_unitValue; }
     QString unit() const { return m_unit; }
+    // Created on first use, so that plain labels carry no formatter.
+    VNFormatter* formatter();
 
     QIcon icon() const { return m_icon; }
     void setIcon(const QIcon& icon);
@@ -39,7 +50,17 @@ public:
 signals:
     void isHeaderChanged(bool header);
 
+protected:
+    void enterEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
 private:
+    bool hasSlidableBuddy() const;
+    void stepBuddy(int steps);
+    void finishBuddyEdit();
+
     void showUnitText();
     void showIcon();
 
@@ -48,6 +69,10 @@ private:
     bool m_hasUnitValue = false;
     double m_unitValue = 0.0;
     QString m_unit;
+    VNFormatter* m_formatter = nullptr;
     QIcon m_icon;
     QSize m_iconSize = QSize(16, 16);
+    bool m_sliding = false;
+    int m_slideStartX = 0;
+    int m_slidSteps = 0;
 };

@@ -1,0 +1,112 @@
+#include "TestAlignment.h"
+
+#include <VNButton.h>
+#include <VNDoubleSpinBox.h>
+#include <VNLineEdit.h>
+#include <VNMenu.h>
+#include <VNPushButton.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QTest>
+
+class TestAlignmentDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void everyWidgetIsNamed();
+    void threeButtonsCarryMenus_data();
+    void threeButtonsCarryMenus();
+    void rowsShareEdges();
+    void guidesRunAlongFieldEdges();
+};
+
+void TestAlignmentDialog::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestAlignmentDialog::everyWidgetIsNamed()
+{
+    TestAlignment dialog(nullptr);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestAlignment"));
+    for (QWidget* widget : dialog.findChildren<QWidget*>()) {
+        // Inner parts of Qt's own widgets carry "qt_" names or none; the dialog's widgets all have one.
+        if (widget->parentWidget() != &dialog && !widget->parentWidget()->objectName().startsWith("m_"))
+            continue;
+        if (widget->objectName().startsWith("qt_") || widget->inherits("QMenu"))
+            continue;
+        QVERIFY2(widget->objectName().startsWith("m_"), widget->metaObject()->className());
+    }
+    QCOMPARE(dialog.findChildren<VNLineEdit*>().size(), 5);
+    QCOMPARE(dialog.findChildren<VNDoubleSpinBox*>().size(), 5);
+}
+
+void TestAlignmentDialog::threeButtonsCarryMenus_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<int>("actions");
+    QTest::newRow("file") << "m_fileMenuButton"
+                          << "m_fileMenu" << 4;
+    QTest::newRow("edit") << "m_editMenuButton"
+                          << "m_editMenu" << 5;
+    QTest::newRow("view") << "m_viewMenuButton"
+                          << "m_viewMenu" << 3;
+}
+
+void TestAlignmentDialog::threeButtonsCarryMenus()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, menu);
+    QFETCH(int, actions);
+    TestAlignment dialog(nullptr);
+    QWidget* owner = dialog.findChild<QWidget*>(button);
+    QVERIFY(owner);
+    QMenu* attached = nullptr;
+    if (auto* pushButton = qobject_cast<QPushButton*>(owner))
+        attached = pushButton->menu();
+    else if (auto* toolButton = qobject_cast<QToolButton*>(owner))
+        attached = toolButton->menu();
+    QVERIFY(qobject_cast<VNMenu*>(attached));
+    QCOMPARE(attached->objectName(), menu);
+    QCOMPARE(attached->actions().size(), actions);
+}
+
+void TestAlignmentDialog::rowsShareEdges()
+{
+    TestAlignment dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    for (const char* row : {"Normal", "NeedInput", "ReadOnly", "Disabled"}) {
+        const QRect edit = dialog.findChild<QWidget*>(QStringLiteral("m_lineEdit%1").arg(row))->geometry();
+        const QRect field = dialog.findChild<QWidget*>(QStringLiteral("m_spinBox%1").arg(row))->geometry();
+        QCOMPARE(field.center().y(), edit.center().y());
+    }
+    const QRect top = dialog.findChild<QWidget*>("m_spinBoxNormal")->geometry();
+    const QRect bottom = dialog.findChild<QWidget*>("m_spinBoxDisabled")->geometry();
+    QCOMPARE(bottom.left(), top.left());
+    QCOMPARE(bottom.width(), top.width());
+}
+
+void TestAlignmentDialog::guidesRunAlongFieldEdges()
+{
+    TestAlignment dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QWidget* area = dialog.findChild<QWidget*>("m_alignmentArea");
+    const QRect edit = dialog.findChild<QWidget*>("m_lineEditNormal")->geometry();
+    const QImage withGuides = area->grab().toImage();
+    // Between the columns, away from every control, only a guide can colour the edit's top row.
+    const int gapX = edit.right() + 3;
+    QCOMPARE(withGuides.pixelColor(gapX, edit.top()), QColor(0, 170, 200));
+    dialog.findChild<QCheckBox*>("m_showGuides")->click();
+    const QImage withoutGuides = area->grab().toImage();
+    QVERIFY(withoutGuides.pixelColor(gapX, edit.top()) != QColor(0, 170, 200));
+}
+
+QTEST_MAIN(TestAlignmentDialog)
+#include "tst_alignment.moc"
