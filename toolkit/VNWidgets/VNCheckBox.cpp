@@ -1,15 +1,12 @@
 #include "VNCheckBox.h"
 
-#include "VNDoubleSpinBox.h"
-
-#include <QEvent>
+#include "VNButtonBuddy_p.h"
 
 VNCheckBox::VNCheckBox(QWidget* parent)
     : QCheckBox(parent)
     , VNWidgetInterface(this)
-{
-    connect(this, &QAbstractButton::toggled, this, &VNCheckBox::updateBuddy);
-}
+    , m_buddy(new VNButtonBuddy(this))
+{}
 
 VNCheckBox::VNCheckBox(const QString& text, QWidget* parent)
     : VNCheckBox(parent)
@@ -19,27 +16,11 @@ VNCheckBox::VNCheckBox(const QString& text, QWidget* parent)
 
 VNDoubleSpinBox* VNCheckBox::buddy() const
 {
-    return m_buddy;
+    return m_buddy->buddy();
 }
 
 void VNCheckBox::setBuddy(VNDoubleSpinBox* buddy)
 {
-    if (buddy == m_buddy)
-        return;
-    m_buddy = buddy;
-    updateBuddy();
-    emit buddyChanged(buddy);
-}
-
-void VNCheckBox::changeEvent(QEvent* event)
-{
-    QCheckBox::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        updateBuddy();
-}
-
-void VNCheckBox::updateBuddy()
-{
-    if (m_buddy)
-        m_buddy->setEnabled(isChecked() && isEnabled());
+    if (m_buddy->setBuddy(buddy))
+        emit buddyChanged(buddy);
 }

@@ -4,8 +4,8 @@
 #include "vnwidgets_export.h"
 
 #include <QCheckBox>
-#include <QPointer>
 
+class VNButtonBuddy;
 class VNDoubleSpinBox;
 
 // A check box in the toolkit's look that can own a value field: the buddy field is enabled
@@ -24,11 +24,6 @@ public:
 signals:
     void buddyChanged(VNDoubleSpinBox* buddy);
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
-    void updateBuddy();
-
-    QPointer<VNDoubleSpinBox> m_buddy;
+    VNButtonBuddy* m_buddy;
 };

@@ -1,15 +1,12 @@
 #include "VNRadioButton.h"
 
-#include "VNDoubleSpinBox.h"
-
-#include <QEvent>
+#include "VNButtonBuddy_p.h"
 
 VNRadioButton::VNRadioButton(QWidget* parent)
     : QRadioButton(parent)
     , VNWidgetInterface(this)
-{
-    connect(this, &QAbstractButton::toggled, this, &VNRadioButton::updateBuddy);
-}
+    , m_buddy(new VNButtonBuddy(this))
+{}
 
 VNRadioButton::VNRadioButton(const QString& text, QWidget* parent)
     : VNRadioButton(parent)
@@ -19,27 +16,11 @@ VNRadioButton::VNRadioButton(const QString& text, QWidget* parent)
 
 VNDoubleSpinBox* VNRadioButton::buddy() const
 {
-    return m_buddy;
+    return m_buddy->buddy();
 }
 
 void VNRadioButton::setBuddy(VNDoubleSpinBox* buddy)
 {
-    if (buddy == m_buddy)
-        return;
-    m_buddy = buddy;
-    updateBuddy();
-    emit buddyChanged(buddy);
-}
-
-void VNRadioButton::changeEvent(QEvent* event)
-{
-    QRadioButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        updateBuddy();
-}
-
-void VNRadioButton::updateBuddy()
-{
-    if (m_buddy)
-        m_buddy->setEnabled(isChecked() && isEnabled());
+    if (m_buddy->setBuddy(buddy))
+        emit buddyChanged(buddy);
 }

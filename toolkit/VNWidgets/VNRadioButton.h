@@ -3,9 +3,9 @@
 #include "VNWidgetInterface.h"
 #include "vnwidgets_export.h"
 
-#include <QPointer>
 #include <QRadioButton>
 
+class VNButtonBuddy;
 class VNDoubleSpinBox;
 
 // A radio button in the toolkit's look that can own a value field: the buddy field is enabled
@@ -25,11 +25,6 @@ public:
 signals:
     void buddyChanged(VNDoubleSpinBox* buddy);
 
-protected:
-    void changeEvent(QEvent* event) override;
-
 private:
-    void updateBuddy();
-
-    QPointer<VNDoubleSpinBox> m_buddy;
+    VNButtonBuddy* m_buddy;
 };
