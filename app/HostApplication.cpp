@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
@@ -68,9 +69,13 @@ QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
     return windows;
 }
 
-void closeModalWindows()
+// Ends the modal window that a click opened; a dialog is ended even when it refuses to close.
+void endModalWindow()
 {
-    while (QWidget* modal = QApplication::activeModalWidget())
+    QWidget* modal = QApplication::activeModalWidget();
+    if (auto* dialog = qobject_cast<QDialog*>(modal))
+        dialog->done(QDialog::Rejected);
+    else if (modal)
         modal->close();
 }
 } // namespace
@@ -192,6 +197,18 @@ int HostApplication::openButtons(const QStringList& names)
     return -1;
 }
 
+bool HostApplication::saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const
+{
+    const QString path = directory.filePath(name + QStringLiteral(".png"));
+    if (!window->grab().save(path, "PNG")) {
+        err() << "testwidgetcollection: cannot write \"" << path << "\"." << Qt::endl;
+        return false;
+    }
+    out() << path << '\n';
+    out().flush();
+    return true;
+}
+
 int HostApplication::takeScreenshots(const QString& directory)
 {
     const QDir dir(directory);
@@ -204,7 +221,8 @@ int HostApplication::takeScreenshots(const QString& directory)
 
     m_panel->show();
     QApplication::processEvents();
-    QList<QPair<QString, QWidget*>> shots = {{QStringLiteral("TestWidgetCollection"), m_panel.get()}};
+    if (!saveScreenshot(dir, QStringLiteral("TestWidgetCollection"), m_panel.get()))
+        return 1;
     QList<LauncherButton> buttons = launcherButtons();
     // The loupe goes last, so that it lands in the most recently opened dialog.
     std::stable_partition(buttons.begin(), buttons.end(), [](const LauncherButton& entry) {
@@ -216,23 +234,17 @@ int HostApplication::takeScreenshots(const QString& directory)
             continue;
         const QSet<QWidget*> before = visibleWidgets();
         QTimer watchdog;
-        watchdog.setSingleShot(true);
-        QObject::connect(&watchdog, &QTimer::timeout, &closeModalWindows);
+        QObject::connect(&watchdog, &QTimer::timeout, &endModalWindow);
         watchdog.start(2000);
         entry.button->click();
         QApplication::processEvents();
         watchdog.stop();
         const QList<QWidget*> windows = newlyShownWindows(before);
-        for (int index = 0; index < windows.size(); ++index)
-            shots << qMakePair(index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1), windows.at(index));
-    }
-    for (const auto& shot : shots) {
-        const QString path = dir.filePath(shot.first + QStringLiteral(".png"));
-        if (!shot.second->grab().save(path, "PNG")) {
-            err() << "testwidgetcollection: cannot write \"" << path << "\"." << Qt::endl;
-            return 1;
+        for (int index = 0; index < windows.size(); ++index) {
+            const QString shotName = index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1);
+            if (!saveScreenshot(dir, shotName, windows.at(index)))
+                return 1;
         }
-        out() << path << '\n';
     }
     out().flush();
     return 0;

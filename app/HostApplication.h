@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class QDir;
 class QPushButton;
 class QTranslator;
 class QWidget;
@@ -33,6 +34,7 @@ private:
     int listButtons() const;
     int openButtons(const QStringList& names);
     int takeScreenshots(const QString& directory);
+    bool saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const;
     bool installMockTranslation();
 
     std::unique_ptr<QTranslator> m_mockTranslation;

@@ -355,9 +355,13 @@ void Loupe::keyPressEvent(QKeyEvent* event)
     const bool shift = event->modifiers() & Qt::ShiftModifier;
     const int key = event->key();
     if (ctrl && (key == Qt::Key_Plus || key == Qt::Key_Minus)) {
-        m_zoom = qBound(minimumZoom, m_zoom + (key == Qt::Key_Plus ? 1 : -1), maximumZoom);
-        updateMarker();
-        update();
+        const int zoom = qBound(minimumZoom, m_zoom + (key == Qt::Key_Plus ? 1 : -1), maximumZoom);
+        // At either end of the range the keys change nothing, not even the moved guides.
+        if (zoom != m_zoom) {
+            m_zoom = zoom;
+            updateMarker();
+            update();
+        }
         return;
     }
     QPoint step;

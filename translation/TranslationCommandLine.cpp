@@ -65,6 +65,7 @@ QString TranslationCommandLine::helpText()
         "\n"
         "Options:\n"
         "  -h, --help        show this text\n"
+        "  --                end of options: every later argument is a FILE\n"
         "\n"
         "Exit status: 0 when every file was processed, 1 when a file could not be processed,\n"
         "2 on a usage error.\n");
@@ -75,12 +76,14 @@ int TranslationCommandLine::run(const QStringList& arguments)
     const QStringList rest = arguments.mid(1);
     if (rest.isEmpty())
         return usageError(QStringLiteral("no mode given."));
-    const QString& mode = rest.first();
-    if (mode == QLatin1String("--help") || mode == QLatin1String("-h")) {
+    // Asking for help wins wherever it stands before "--".
+    const QStringList options = rest.mid(0, rest.indexOf(QStringLiteral("--")));
+    if (options.contains(QStringLiteral("--help")) || options.contains(QStringLiteral("-h"))) {
         m_out << helpText();
         m_out.flush();
         return Success;
     }
+    const QString& mode = rest.first();
     if (mode == rewriteMode && rest.value(1) == treeOption)
         return runOnTree(rest.mid(2));
     if (mode != rewriteMode && operationOf(mode) < 0)
@@ -130,6 +133,8 @@ int TranslationCommandLine::runOnTree(const QStringList& arguments)
 {
     if (arguments.size() > 1)
         return usageError(QStringLiteral("rewrite-tr --tree takes at most one DIR."));
+    if (arguments.value(0).startsWith(QLatin1Char('-')))
+        return usageError(QStringLiteral("unknown option \"%1\".").arg(arguments.value(0)));
     const TranslationFileTool tool;
     const TranslationRunner runner(tool, [this](const QString& message) { print(message); });
     const QString root = arguments.value(0);

@@ -105,8 +105,9 @@ TranslationRunner::Result TranslationRunner::rewriteTree(const QString& root) co
     m_tool.processDirectory(
         root, [this](const QString& filePath) { report(TranslationMessages::processingFile(filePath)); },
         [&result](const QString& filePath) {
-            if (QFileInfo(filePath).size() == 0)
-                return; // nothing to rewrite
+            // Empty files need no rewrite, and "Rg" files are left out of every walk on purpose.
+            if (QFileInfo(filePath).size() == 0 || isExcludedByName(filePath))
+                return;
             QString problem = readProblem(filePath);
             if (problem.isEmpty())
                 problem = QStringLiteral("\"%1\" was left unchanged: it is not valid UTF-8 or could not be written.")
@@ -128,6 +129,12 @@ TranslationRunner::Result TranslationRunner::rewriteWholeProject() const
     return result;
 }
 
+bool TranslationRunner::isExcludedByName(const QString& filePath)
+{
+    const QString baseName = QFileInfo(filePath).baseName();
+    return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
+}
+
 QString TranslationRunner::readProblem(const QString& filePath)
 {
     const QFileInfo info(filePath);
@@ -139,8 +146,7 @@ QString TranslationRunner::readProblem(const QString& filePath)
         return QStringLiteral("\"%1\" is not readable.").arg(filePath);
     if (info.size() > qint64(128) * 1024 * 1024)
         return QStringLiteral("\"%1\" is larger than 128 MiB.").arg(filePath);
-    const QString baseName = info.baseName();
-    if (baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg")))
+    if (isExcludedByName(filePath))
         return QStringLiteral("\"%1\" was skipped: files whose names start with \"Rg\" or \"rg\" are never read.")
             .arg(filePath);
     return QString();

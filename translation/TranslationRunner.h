@@ -45,6 +45,8 @@ public:
     // rewriteTree() from $VN_TRANSLATION_SOURCE_PATH.
     Result rewriteWholeProject() const;
 
+    // Files whose base names start with "Rg" or "rg" are never read.
+    static bool isExcludedByName(const QString& filePath);
     // Why the file cannot be read, or an empty string when it can.
     static QString readProblem(const QString& filePath);
 

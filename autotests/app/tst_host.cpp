@@ -79,6 +79,9 @@ void HostTest::screenshots()
     QVERIFY(panel.width() >= 706 && panel.height() >= 636);
     QCOMPARE(QImage(dir.filePath(QStringLiteral("m_QtTraining.png"))).size(), QSize(290, 624));
     QCOMPARE(QImage(dir.filePath(QStringLiteral("m_testVNMessageBox.png"))).size(), QSize(765, 573));
+    // Each window is saved as it appeared; the loupe comes last and shows only in its own shot.
+    QVERIFY(QImage(dir.filePath(QStringLiteral("m_testVNMessageBox.png"))) !=
+            QImage(dir.filePath(QStringLiteral("loupe.png"))));
     for (const char* name : {"showStyleSheet", "stateDebug", "loupe"})
         QVERIFY2(!QImage(dir.filePath(QLatin1String(name) + QStringLiteral(".png"))).isNull(), name);
     QVERIFY(!QFile::exists(dir.filePath(QStringLiteral("m_converterTest.png"))));

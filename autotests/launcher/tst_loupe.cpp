@@ -112,6 +112,7 @@ private slots:
     void keyMoves();
     void overlayColors();
     void ctrlArrowMovesMarkerAndGuides();
+    void zoomAtLimitKeepsGuides();
     void mouseDragMovesLoupe();
     void exitHides();
 };
@@ -313,6 +314,21 @@ void LoupeTest::ctrlArrowMovesMarkerAndGuides()
     const QColor centre = blended(QColor(10, 10, 10, 110), blended(QColor(210, 210, 210, 190), white));
     QVERIFY(near(image.pixelColor(20, 100), centre));
     QVERIFY(!near(image.pixelColor(20, 98), centre));
+}
+
+void LoupeTest::zoomAtLimitKeepsGuides()
+{
+    Fixture fixture;
+    fixture.parent.plain = true;
+    fixture.loupe->showVAlignation(true);
+    for (int i = 0; i < 3; ++i)
+        QTest::keyClick(fixture.loupe, Qt::Key_Minus, Qt::ControlModifier);
+    QTest::keyClick(fixture.loupe, Qt::Key_Right, Qt::ControlModifier);
+    QTest::keyClick(fixture.loupe, Qt::Key_Minus, Qt::ControlModifier); // already at zoom 1
+    const QImage image = fixture.loupe->grab().toImage();
+    QVERIFY(near(image.pixelColor(6, 20), blended(QColor(175, 10, 10, 190), Qt::white)));
+    QTest::keyClick(fixture.loupe, Qt::Key_Plus, Qt::ControlModifier); // a real change resets the guides
+    QVERIFY(near(fixture.loupe->grab().toImage().pixelColor(5, 20), blended(QColor(175, 10, 10, 190), Qt::white)));
 }
 
 void LoupeTest::mouseDragMovesLoupe()

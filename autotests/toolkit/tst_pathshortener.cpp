@@ -71,6 +71,7 @@ private slots:
     void nothingFits_data();
     void nothingFits();
     void settersChangeResult();
+    void shapedTextThatFitsStays();
 };
 
 void PathShortenerTest::fitsMeasuredWidth_data()
@@ -205,6 +206,16 @@ void PathShortenerTest::settersChangeResult()
     shortener.setWidth(large.horizontalAdvance(path));
     QCOMPARE(shortener.width(), large.horizontalAdvance(path));
     QCOMPARE(shortener.adjust(path), path);
+}
+
+void PathShortenerTest::shapedTextThatFitsStays()
+{
+    // Joined Arabic letters are narrower than the sum of the letters alone.
+    const QString path = QStringLiteral("C:\\مشروع\\التصميم\\الهيكل\\النوافذ\\ملف_الاختبار.vnd");
+    const QFontMetrics metrics(QFont(QStringLiteral("DejaVu Sans"), 10));
+    const int width = metrics.horizontalAdvance(path);
+    QCOMPARE(PathShortener(width, metrics).adjust(path), path);
+    QVERIFY(PathShortener(width - 20, metrics).adjust(path) != path);
 }
 
 QTEST_MAIN(PathShortenerTest)

@@ -168,6 +168,8 @@ void TestValueWidgets::labelShowsUnitValueThroughFormatter()
     QCOMPARE(label.text(), QStringLiteral("Length: 1.00 inch"));
     label.formatter()->setDecimals(0);
     QCOMPARE(label.text(), QStringLiteral("Length: 1 inch"));
+    label.setUnitText(QString());
+    QCOMPARE(label.text(), QStringLiteral("1 inch"));
 }
 
 void TestValueWidgets::labelUsesOwnTextAsPattern()

@@ -301,9 +301,18 @@ void TestVNDoubleSpinBox::factorScalesShownNumber()
     typeAndConfirm(&field, "25");
     QCOMPARE(field.value(), 0.25);
 
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("factor must be a positive number"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("other than 0"));
     field.setFactor(0.0);
     QCOMPARE(field.factor(), 100.0);
+
+    // A negative factor turns the shown range around, and the arrows follow the shown number.
+    field.setRange(0.0, 1.0);
+    field.setFactor(-10.0);
+    QCOMPARE(editOf(&field)->text(), QStringLiteral("-2.50"));
+    QCOMPARE(field.minimumInDisplayUnit(), -10.0);
+    QCOMPARE(field.maximumInDisplayUnit(), 0.0);
+    field.stepUp();
+    QCOMPARE(editOf(&field)->text(), QStringLiteral("-1.50"));
 }
 
 void TestVNDoubleSpinBox::virtualSliderDragChangesValue()

@@ -11,6 +11,7 @@ class TestVNFormatter : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -27,18 +28,37 @@ private slots:
     void globalChangeSignalsOnlyAffectedFormatters();
 
 private:
+    static void clearGlobalDisplayUnits();
+
     QLocale m_originalLocale;
 };
+
+// Runs before any test clears the global display units.
+void TestVNFormatter::initTestCase()
+{
+    VNFormatter formatter;
+    formatter.setValueUnit(QStringLiteral("inch"));
+    formatter.setUseGlobalDisplayUnit(true);
+    QVERIFY(formatter.isGlobalOn());
+    QCOMPARE(formatter.displayUnit(), QStringLiteral("mm"));
+    QCOMPARE(VNFormatter::globalDisplayUnit(UnitConverter::Angle), QStringLiteral("deg"));
+    QCOMPARE(VNFormatter::globalDisplayUnit(UnitConverter::Dimensionless), QString());
+}
 
 void TestVNFormatter::init()
 {
     m_originalLocale = QLocale();
     QLocale::setDefault(QLocale::c());
+    clearGlobalDisplayUnits();
 }
 
 void TestVNFormatter::cleanup()
 {
     QLocale::setDefault(m_originalLocale);
+}
+
+void TestVNFormatter::clearGlobalDisplayUnits()
+{
     const QMetaEnum quantities = QMetaEnum::fromType<UnitConverter::Quantity>();
     for (int i = 0; i < quantities.keyCount(); ++i)
         VNFormatter::setGlobalDisplayUnit(UnitConverter::Quantity(quantities.value(i)), QString());

@@ -44,6 +44,7 @@ class TwcTranslateTest : public QObject
 
 private slots:
     void init();
+    void help_data();
     void help();
     void usageErrors_data();
     void usageErrors();
@@ -77,9 +78,18 @@ QString TwcTranslateTest::writeFile(const QString& name, const QByteArray& conte
     return path;
 }
 
+void TwcTranslateTest::help_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("alone") << QStringList({"--help"});
+    QTest::newRow("after a mode") << QStringList({"fix", "--help"});
+    QTest::newRow("as tree root") << QStringList({"rewrite-tr", "--tree", "-h"});
+}
+
 void TwcTranslateTest::help()
 {
-    const Run run = runInProcess({QStringLiteral("--help")});
+    QFETCH(QStringList, arguments);
+    const Run run = runInProcess(arguments);
     QCOMPARE(run.exitCode, 0);
     for (const char* mode : {"fix", "mock", "count-braces", "count-numerus", "check-braces", "count-unfinished",
                              "rewrite-tr", "--tree", "VN_TRANSLATION_SOURCE_PATH"})
@@ -98,6 +108,7 @@ void TwcTranslateTest::usageErrors_data()
     QTest::newRow("tree with another mode") << QStringList({"fix", "--tree"}) << "--tree goes right after rewrite-tr";
     QTest::newRow("two tree roots") << QStringList({"rewrite-tr", "--tree", "a", "b"}) << "at most one DIR";
     QTest::newRow("tree without root") << QStringList({"rewrite-tr", "--tree"}) << "VN_TRANSLATION_SOURCE_PATH";
+    QTest::newRow("option as tree root") << QStringList({"rewrite-tr", "--tree", "--all"}) << "unknown option";
 }
 
 void TwcTranslateTest::usageErrors()
@@ -201,6 +212,7 @@ void TwcTranslateTest::treeFromEnvironmentSkipsLegacy()
     const QString nested = writeFile(QStringLiteral("src/Legacy/x/Old.h"), trSource);
     const QString upper = writeFile(QStringLiteral("src/LEGACY/Kept.h"), trSource);
     writeFile(QStringLiteral("src/Empty.h"), QByteArray());
+    const QString excluded = writeFile(QStringLiteral("src/RgDialog.cpp"), trSource);
     qputenv("VN_TRANSLATION_SOURCE_PATH", QFile::encodeName(m_dir->filePath(QStringLiteral("src"))));
     const Run run = runInProcess({QStringLiteral("rewrite-tr"), QStringLiteral("--tree")});
     QCOMPARE(run.exitCode, 0);
@@ -212,6 +224,7 @@ void TwcTranslateTest::treeFromEnvironmentSkipsLegacy()
     QCOMPARE(readBytes(upper), rewritten("Kept"));
     QCOMPARE(readBytes(legacy), trSource);
     QCOMPARE(readBytes(nested), trSource);
+    QCOMPARE(readBytes(excluded), trSource); // left out on purpose, which is no failure
 }
 
 void TwcTranslateTest::treeNeedsDirectory()

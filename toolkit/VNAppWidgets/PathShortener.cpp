@@ -138,7 +138,9 @@ QString PathShortener::adjust(const QString& path) const
     Measure measure(m_metrics, m_exactMetrics, m_width);
     measure.calibrate(longestPiece(parts));
     const qreal estimate = measure.estimate(path);
-    if (measure.mayFit(estimate) && measure.fits(path, estimate))
+    // Shaped scripts can be much narrower than the sum of their characters, so a path that is
+    // anywhere near the width is measured as a whole before anything is left out.
+    if (measure.mayFit(estimate / 1.5) && measure.fits(path, estimate))
         return path;
     if (!parts.directories.isEmpty()) {
         const QString shortened = withoutMiddleDirectories(parts, measure);

@@ -78,6 +78,9 @@ void VNDisplayNeededInput::setUseOptional(bool use)
     if (use == m_useOptional)
         return;
     const int optionalBefore = optional();
+    // Switched off, the display keeps showing the count it derived until one is set by hand.
+    if (!use)
+        m_manualOptional = optionalBefore;
     m_useOptional = use;
     emit useOptionalChanged(use);
     updateOptional(optionalBefore);

@@ -15,8 +15,8 @@ class QPainter;
 //
 // Optional count: with useOptional off, optional() is the count set by setOptional(). With
 // useOptional on, the widget derives it from the needed count: an operation that needs n points
-// accepts up to n - 1 more, so optional() is max(0, needed() - 1). The count set by setOptional()
-// is kept meanwhile and is shown again once useOptional is switched off.
+// accepts up to n - 1 more, so optional() is max(0, needed() - 1). Switching useOptional off keeps
+// the count last shown until setOptional() sets another.
 class VNWIDGETS_EXPORT VNDisplayNeededInput : public QWidget
 {
     Q_OBJECT

@@ -129,8 +129,10 @@ void VNDoubleSpinBox::setDecimals(int decimals)
 
 void VNDoubleSpinBox::setFactor(double factor)
 {
-    if (!(factor > 0.0) || !qIsFinite(factor)) {
-        qWarning("VNDoubleSpinBox %s: the factor must be a positive number; %g is ignored, the factor stays %g",
+    // A zero factor would show every value as 0 and could not be read back.
+    if (factor == 0.0 || !qIsFinite(factor)) {
+        qWarning("VNDoubleSpinBox %s: the factor must be a finite number other than 0; %g is ignored, the factor "
+                 "stays %g",
                  qPrintable(objectName()), factor, m_factor);
         return;
     }
@@ -219,24 +221,31 @@ void VNDoubleSpinBox::setSuffix(const QString& suffix)
     refreshText();
 }
 
+// A negative factor turns the range around: the smallest value shows as the largest number.
 double VNDoubleSpinBox::minimumInDisplayUnit() const
 {
-    return toDisplay(minimum());
+    return toDisplay(m_factor < 0 ? maximum() : minimum());
 }
 
 void VNDoubleSpinBox::setMinimumInDisplayUnit(double minimum)
 {
-    setMinimum(fromDisplay(minimum));
+    if (m_factor < 0)
+        setMaximum(fromDisplay(minimum));
+    else
+        setMinimum(fromDisplay(minimum));
 }
 
 double VNDoubleSpinBox::maximumInDisplayUnit() const
 {
-    return toDisplay(maximum());
+    return toDisplay(m_factor < 0 ? minimum() : maximum());
 }
 
 void VNDoubleSpinBox::setMaximumInDisplayUnit(double maximum)
 {
-    setMaximum(fromDisplay(maximum));
+    if (m_factor < 0)
+        setMinimum(fromDisplay(maximum));
+    else
+        setMaximum(fromDisplay(maximum));
 }
 
 double VNDoubleSpinBox::valueInDisplayUnit() const
@@ -286,15 +295,19 @@ void VNDoubleSpinBox::fixup(QString& input) const
             input = textFromValue(qBound(minimum(), parsed, maximum()));
         return;
     }
-    if (numberText(input).isEmpty() || !isVisible())
-        return;
-    const QString unit = displayUnit();
-    const QString message = unit.isEmpty()
-                                ? tr("\"%1\" is not a number; the value stays %2.").arg(input, textFromValue(value()))
-                                : tr("\"%1\" is not a number in %2 or a unit of its kind; the value stays %3.")
-                                      .arg(input, unit, textFromValue(value()));
-    auto* self = const_cast<VNDoubleSpinBox*>(this);
-    QToolTip::showText(mapToGlobal(QPoint(0, height())), message, self);
+    const QString previous = textFromValue(value());
+    if (!numberText(input).isEmpty() && isVisible()) {
+        const QString unit = displayUnit();
+        const QString message = unit.isEmpty()
+                                    ? tr("\"%1\" is not a number; the value stays %2.").arg(input, previous)
+                                    : tr("\"%1\" is not a number in %2 or a unit of its kind; the value stays %3.")
+                                          .arg(input, unit, previous);
+        auto* self = const_cast<VNDoubleSpinBox*>(this);
+        QToolTip::showText(mapToGlobal(QPoint(0, height())), message, self);
+    }
+    // A text without a number has no nearest value: keep the previous one, as the message says.
+    if (correctionMode() == CorrectToNearestValue)
+        input = previous;
 }
 
 void VNDoubleSpinBox::stepBy(int steps)
@@ -319,7 +332,16 @@ QAbstractSpinBox::StepEnabled VNDoubleSpinBox::stepEnabled() const
 {
     if (isEmpty() && !isReadOnly())
         return StepUpEnabled | StepDownEnabled;
-    return QDoubleSpinBox::stepEnabled();
+    const StepEnabled enabled = QDoubleSpinBox::stepEnabled();
+    if (m_factor > 0 || wrapping())
+        return enabled;
+    // The arrows act on the number shown, which runs against the value.
+    StepEnabled swapped = StepNone;
+    if (enabled & StepUpEnabled)
+        swapped |= StepDownEnabled;
+    if (enabled & StepDownEnabled)
+        swapped |= StepUpEnabled;
+    return swapped;
 }
 
 QSize VNDoubleSpinBox::sizeHint() const

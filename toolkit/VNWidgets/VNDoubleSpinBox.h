@@ -70,8 +70,8 @@ public:
     int decimals() const;
     void setDecimals(int decimals);
 
-    // The shown number is the value in the display unit times the factor. Only positive finite
-    // factors are taken.
+    // The shown number is the value in the display unit times the factor. Any finite factor but 0
+    // is taken; a negative one turns the shown range around.
     double factor() const { return m_factor; }
     void setFactor(double factor);
 

@@ -11,9 +11,18 @@
 
 namespace {
 
+// The application's unit system until it sets its own: metric, with lengths in millimetres.
 QHash<int, QString>& globalDisplayUnits()
 {
-    static QHash<int, QString> units;
+    static QHash<int, QString> units = {
+        {UnitConverter::Length, UnitConverter::unitText(UnitConverter::Millimeter)},
+        {UnitConverter::Angle, UnitConverter::unitText(UnitConverter::Degree)},
+        {UnitConverter::Force, UnitConverter::unitText(UnitConverter::Newton)},
+        {UnitConverter::Pressure, UnitConverter::unitText(UnitConverter::Megapascal)},
+        {UnitConverter::Mass, UnitConverter::unitText(UnitConverter::Kilogram)},
+        {UnitConverter::Time, UnitConverter::unitText(UnitConverter::Second)},
+        {UnitConverter::Temperature, UnitConverter::unitText(UnitConverter::DegreeCelsius)},
+    };
     return units;
 }
 

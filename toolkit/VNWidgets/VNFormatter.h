@@ -24,7 +24,8 @@
 // format first and the C locale's second, so "1.5" still reads as one and a half in a German
 // session while "1.500" reads as fifteen hundred there.
 //
-// Formatters and the global display units belong to the GUI thread.
+// The global display units start as the toolkit's metric unit system (mm, deg, N, MPa, kg, s, °C);
+// an application sets its own. Formatters and the global display units belong to the GUI thread.
 class VNWIDGETS_EXPORT VNFormatter : public QObject
 {
     Q_OBJECT

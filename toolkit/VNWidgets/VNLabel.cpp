@@ -26,6 +26,10 @@ void VNLabel::setIsHeader(bool header)
     if (header == m_isHeader)
         return;
     m_isHeader = header;
+    // Bold even without the toolkit style sheet, which adds the header colour and rule.
+    QFont headerFont = font();
+    headerFont.setBold(header);
+    setFont(headerFont);
     VNWidgetStatus::repolish(this);
     emit isHeaderChanged(header);
 }
@@ -65,14 +69,15 @@ VNFormatter* VNLabel::formatter()
 
 void VNLabel::showUnitText()
 {
-    if (m_unitText.isEmpty())
+    // A label that never showed a unit value keeps its own text.
+    if (m_unitText.isEmpty() && !m_hasUnitValue && m_unit.isEmpty())
         return;
     QString valueText;
     if (m_hasUnitValue)
         valueText = formatter()->textFromValue(m_unitValue, true);
     else if (!m_unit.isEmpty())
         valueText = m_unit;
-    QString shown = m_unitText;
+    QString shown = m_unitText.isEmpty() ? unitPlaceholder : m_unitText;
     setText(shown.replace(unitPlaceholder, valueText));
 }
 

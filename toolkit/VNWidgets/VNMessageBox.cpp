@@ -76,6 +76,9 @@ QWidget* VNMessageBox::createTitleBar(const QString& title)
 
     auto* titleLabel = new QLabel(title, bar);
     titleLabel->setObjectName(QStringLiteral("titleLabel"));
+    QFont titleFont = titleLabel->font();
+    titleFont.setBold(true);
+    titleLabel->setFont(titleFont);
 
     m_titleCloseButton = new QToolButton(bar);
     m_titleCloseButton->setObjectName(QStringLiteral("titleCloseButton"));
