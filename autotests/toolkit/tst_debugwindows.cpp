@@ -29,7 +29,7 @@ QTreeWidgetItem* findItem(QTreeWidget* tree, const QString& text)
 }
 } // namespace
 
-class InspectionTest : public QObject
+class DebugWindowsTest : public QObject
 {
     Q_OBJECT
 
@@ -43,18 +43,18 @@ private slots:
     void stateInfoPicksFromWindowTree();
 };
 
-void InspectionTest::init()
+void DebugWindowsTest::init()
 {
     qApp->setStyleSheet(originalSheet);
 }
 
-void InspectionTest::cleanup()
+void DebugWindowsTest::cleanup()
 {
     qApp->setStyleSheet(QString());
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void InspectionTest::styleSheetEditorAppliesAndReverts()
+void DebugWindowsTest::styleSheetEditorAppliesAndReverts()
 {
     DebugStyleSheet viewer(nullptr, false);
     auto* editor = viewer.findChild<QPlainTextEdit*>(QStringLiteral("styleSheetEdit"));
@@ -79,7 +79,7 @@ void InspectionTest::styleSheetEditorAppliesAndReverts()
     QCOMPARE(editor->toPlainText(), originalSheet);
 }
 
-void InspectionTest::styleSheetViewerIsReadOnly()
+void DebugWindowsTest::styleSheetViewerIsReadOnly()
 {
     DebugStyleSheet viewer(nullptr, true);
     viewer.show();
@@ -90,7 +90,7 @@ void InspectionTest::styleSheetViewerIsReadOnly()
     QCOMPARE(qApp->styleSheet(), originalSheet);
 }
 
-void InspectionTest::stateInfoIsAWindowOfItsOwn()
+void DebugWindowsTest::stateInfoIsAWindowOfItsOwn()
 {
     QWidget panel;
     auto* info = new DebugStateInfo(&panel);
@@ -98,7 +98,7 @@ void InspectionTest::stateInfoIsAWindowOfItsOwn()
     QCOMPARE(info->parentWidget(), &panel);
 }
 
-void InspectionTest::stateInfoDescribesWidget()
+void DebugWindowsTest::stateInfoDescribesWidget()
 {
     QWidget window;
     window.setObjectName(QStringLiteral("host"));
@@ -119,7 +119,7 @@ void InspectionTest::stateInfoDescribesWidget()
     QCOMPARE(valueOf(rows, QStringLiteral("Window")), QStringLiteral("QWidget \"host\""));
 }
 
-void InspectionTest::stateInfoPicksFromWindowTree()
+void DebugWindowsTest::stateInfoPicksFromWindowTree()
 {
     QWidget window;
     window.setObjectName(QStringLiteral("inspectedWindow"));
@@ -140,5 +140,5 @@ void InspectionTest::stateInfoPicksFromWindowTree()
     QVERIFY(!view->findItems(QStringLiteral("nameEdit"), Qt::MatchExactly, 1).isEmpty());
 }
 
-QTEST_MAIN(InspectionTest)
-#include "tst_inspection.moc"
+QTEST_MAIN(DebugWindowsTest)
+#include "tst_debugwindows.moc"
