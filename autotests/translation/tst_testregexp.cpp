@@ -1,3 +1,4 @@
+#include "ScratchFiles.h"
 #include "TestRegExp.h"
 #include "TestWidgetCollection.h"
 
@@ -60,8 +61,7 @@ private:
 
 QByteArray readBytes(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+    return ScratchFiles::read(path);
 }
 } // namespace
 
@@ -104,12 +104,7 @@ void TestRegExpTest::cleanup()
 
 QString TestRegExpTest::writeFile(const QString& name, const QByteArray& content)
 {
-    const QString path = m_dir->filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
+    return ScratchFiles::write(QDir(m_dir->path()), name, content);
 }
 
 void TestRegExpTest::start(TestRegExp& dialog, int mode, const QString& path)

@@ -1,3 +1,4 @@
+#include "ScratchFiles.h"
 #include "TranslationFileTool.h"
 #include "TranslationOracle.h"
 
@@ -41,18 +42,12 @@ private:
 
 QString TestTranslationFileTool::writeFile(const QString& name, const QByteArray& content)
 {
-    const QString path = m_dir.filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
+    return ScratchFiles::write(QDir(m_dir.path()), name, content);
 }
 
 QByteArray TestTranslationFileTool::readBytes(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+    return ScratchFiles::read(path);
 }
 
 void TestTranslationFileTool::mockSwedish_data()

@@ -1,3 +1,4 @@
+#include "ScratchFiles.h"
 #include "TranslationCommandLine.h"
 
 #include <QDir>
@@ -26,8 +27,7 @@ Run runInProcess(const QStringList& arguments)
 
 QByteArray readBytes(const QString& path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
+    return ScratchFiles::read(path);
 }
 
 const QByteArray trSource = "void f() { x = tr(\"A\"); }\n";
@@ -70,12 +70,7 @@ void TwcTranslateTest::init()
 
 QString TwcTranslateTest::writeFile(const QString& name, const QByteArray& content)
 {
-    const QString path = m_dir->filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
+    return ScratchFiles::write(QDir(m_dir->path()), name, content);
 }
 
 void TwcTranslateTest::help_data()
