@@ -6,8 +6,7 @@
 
 PropertyChangeFilter::PropertyChangeFilter(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
 void PropertyChangeFilter::repolish(QWidget* widget, bool alsoChildren)
 {
