@@ -1,6 +1,6 @@
-# Mock Swedish for the running UI. lupdate extracts the collection's own texts into a .ts file in
-# the build tree, twc-translate fills every translation with mock Swedish, lrelease compiles the
-# result, and the .qm is embedded into the library as
+# Mock Swedish for the running UI. lupdate extracts the texts of the collection and of the reference
+# toolkit into a .ts file in the build tree, twc-translate fills every translation with mock Swedish,
+# lrelease compiles the result, and the .qm is embedded into the library as
 # ":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm", which
 # `testwidgetcollection --mock-locale` loads. Without lupdate or lrelease the build goes on
 # without it.
@@ -57,7 +57,8 @@ if(TWC_HAS_MOCK_TRANSLATION)
         "${PROJECT_SOURCE_DIR}/launcher/*.h" "${PROJECT_SOURCE_DIR}/launcher/*.cpp" "${PROJECT_SOURCE_DIR}/launcher/*.ui"
         "${PROJECT_SOURCE_DIR}/translation/*.h" "${PROJECT_SOURCE_DIR}/translation/*.cpp"
         "${PROJECT_SOURCE_DIR}/translation/*.ui"
-        "${PROJECT_SOURCE_DIR}/tests/*.h" "${PROJECT_SOURCE_DIR}/tests/*.cpp" "${PROJECT_SOURCE_DIR}/tests/*.ui")
+        "${PROJECT_SOURCE_DIR}/tests/*.h" "${PROJECT_SOURCE_DIR}/tests/*.cpp" "${PROJECT_SOURCE_DIR}/tests/*.ui"
+        "${PROJECT_SOURCE_DIR}/toolkit/*.h" "${PROJECT_SOURCE_DIR}/toolkit/*.cpp" "${PROJECT_SOURCE_DIR}/toolkit/*.ui")
     list(SORT _twc_sources)
     string(REPLACE ";" "\n" _twc_list_text "${_twc_sources}")
     file(WRITE "${_twc_list}.in" "${_twc_list_text}\n")

@@ -1,10 +1,8 @@
 #include "TestStringReducer.h"
-#include "TestWidgetCollection.h"
 
 #include <PathShortener.h>
 
 #include <QApplication>
-#include <QBoxLayout>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -56,7 +54,6 @@ private slots:
     void widthIgnoredWhileNotFixed();
     void freeingTheWidthWaitsForTheNextAdjust();
     void adjustOnResize();
-    void launcherOpensOneDialog();
 };
 
 void StringReducerTest::cleanup()
@@ -64,49 +61,23 @@ void StringReducerTest::cleanup()
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
+// What robots rely on: names, classes and texts, and the width field's range as users see it.
 void StringReducerTest::form()
 {
     TestStringReducer dialog(nullptr);
     QCOMPARE(dialog.objectName(), QStringLiteral("TestStringReducerClass"));
     QCOMPARE(dialog.windowTitle(), QStringLiteral("TestStringReducer"));
-    QCOMPARE(dialog.size(), QSize(584, 139));
-    auto* outer = child<QVBoxLayout>(&dialog, "verticalLayout");
-    QVERIFY(outer);
-    QCOMPARE(outer->spacing(), 6);
-    QCOMPARE(outer->contentsMargins(), QMargins(11, 11, 11, 11));
-    QCOMPARE(outer->count(), 4);
-    const QStringList rows[] = {{"horizontalLayout_2", "lineEdit", "pushButton", "checkBox"},
-                                {"horizontalLayout", "label"},
-                                {"horizontalLayout_3", "m_width", "m_fixedWidth"}};
-    for (int row = 0; row < 3; ++row) {
-        QLayout* layout = outer->itemAt(row)->layout();
-        QCOMPARE(layout->objectName(), rows[row].first());
-        QCOMPARE(layout->spacing(), 6);
-        for (int index = 1; index < rows[row].size(); ++index)
-            QCOMPARE(layout->itemAt(index - 1)->widget()->objectName(), rows[row].at(index));
-    }
-    QSpacerItem* spacer = outer->itemAt(3)->spacerItem();
-    QVERIFY(spacer);
-    QCOMPARE(spacer->sizeHint(), QSize(20, 115));
-    QCOMPARE(spacer->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-    QCOMPARE(spacer->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
-    QSpacerItem* fieldSpacer = child<QHBoxLayout>(&dialog, "horizontalLayout")->itemAt(1)->spacerItem();
-    QVERIFY(fieldSpacer);
-    QCOMPARE(fieldSpacer->sizeHint(), QSize(300, 20));
-    QCOMPARE(fieldSpacer->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-
+    QVERIFY(child<QLineEdit>(&dialog, "lineEdit"));
     QCOMPARE(child<QPushButton>(&dialog, "pushButton")->text(), QStringLiteral("Adjust"));
     QCOMPARE(child<QCheckBox>(&dialog, "checkBox")->text(), QStringLiteral("Adjust on Resize"));
     QCOMPARE(child<QCheckBox>(&dialog, "m_fixedWidth")->text(), QStringLiteral("Set Fixed Width"));
     QVERIFY(field(&dialog)->isReadOnly());
     auto* width = child<QSpinBox>(&dialog, "m_width");
-    QCOMPARE(width->minimum(), 0);
-    QCOMPARE(width->maximum(), 600);
-    QCOMPARE(width->suffix(), QStringLiteral(" px"));
-    QCOMPARE(width->prefix(), QString());
-    QCOMPARE(width->minimumWidth(), 80);
+    QCOMPARE(width->text(), QStringLiteral("%1 px").arg(width->value()));
     width->setValue(700);
     QCOMPARE(width->value(), 600);
+    width->setValue(-1);
+    QCOMPARE(width->value(), 0);
 }
 
 void StringReducerTest::sampleData()
@@ -212,18 +183,6 @@ void StringReducerTest::adjustOnResize()
     clickCheckBox(&dialog, "checkBox");
     dialog.resize(1400, 139);
     QCOMPARE(result->text(), narrow);
-}
-
-void StringReducerTest::launcherOpensOneDialog()
-{
-    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
-    auto* button = panel.findChild<QPushButton*>(QStringLiteral("testPathShortener"));
-    button->click();
-    button->click();
-    const auto dialogs = panel.findChildren<TestStringReducer*>(QString(), Qt::FindDirectChildrenOnly);
-    QCOMPARE(dialogs.size(), 1);
-    QVERIFY(dialogs.first()->isVisible());
-    QVERIFY(dialogs.first()->isWindow());
 }
 
 QTEST_MAIN(StringReducerTest)

@@ -141,15 +141,23 @@ QMessageBox::StandardButtons VNMessageBox::standardButtons() const
     return QMessageBox::StandardButtons(int(m_buttonBox->standardButtons()));
 }
 
+// The same choice as Qt's own message box, so that Escape answers as users know it: Cancel, else a
+// lone button, else the one rejecting button, else the one "no" button; anything else is ambiguous.
 QMessageBox::StandardButton VNMessageBox::escapeButton() const
 {
+    if (button(QMessageBox::Cancel))
+        return QMessageBox::Cancel;
     const QList<QAbstractButton*> buttons = m_buttonBox->buttons();
     if (buttons.size() == 1)
         return QMessageBox::StandardButton(int(m_buttonBox->standardButton(buttons.first())));
-    for (QMessageBox::StandardButton candidate :
-         {QMessageBox::Cancel, QMessageBox::Close, QMessageBox::Abort, QMessageBox::No, QMessageBox::Ignore}) {
-        if (button(candidate))
-            return candidate;
+    for (QDialogButtonBox::ButtonRole role : {QDialogButtonBox::RejectRole, QDialogButtonBox::NoRole}) {
+        QList<QAbstractButton*> withRole;
+        for (QAbstractButton* candidate : buttons) {
+            if (m_buttonBox->buttonRole(candidate) == role)
+                withRole << candidate;
+        }
+        if (withRole.size() == 1)
+            return QMessageBox::StandardButton(int(m_buttonBox->standardButton(withRole.first())));
     }
     return QMessageBox::NoButton;
 }
