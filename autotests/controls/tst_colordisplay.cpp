@@ -3,6 +3,7 @@
 #include <ColorDisplay.h>
 #include <VNDoubleSpinBox.h>
 #include <VNFormatter.h>
+#include <VNLabel.h>
 
 #include <QApplication>
 #include <QCheckBox>
@@ -59,16 +60,18 @@ void TestColorDisplayDialog::form()
     TestColorDisplay dialog(nullptr);
     Form form(&dialog);
     QCOMPARE(dialog.windowTitle(), QStringLiteral("TestColorDisplay"));
-    QCOMPARE(dialog.size(), QSize(411, 255));
     QCOMPARE(form.twoSides->text(), QStringLiteral("Two Sides"));
+    QCOMPARE(form.left->text(), QStringLiteral("Left"));
+    QCOMPARE(form.right->text(), QStringLiteral("Right"));
+    const char* labels[][2] = {{"redLabel", "Red:"}, {"greenLabel", "Green:"}, {"blueLabel", "Blue:"}};
+    for (const auto& label : labels)
+        QCOMPARE(dialog.findChild<VNLabel*>(QLatin1String(label[0]))->text(), QString::fromLatin1(label[1]));
     QVERIFY(form.left->isChecked());
     QVERIFY(!form.right->isChecked());
     QVERIFY(!form.twoSides->isChecked());
-    QCOMPARE(form.display->minimumSize(), QSize(60, 21));
     for (VNDoubleSpinBox* field : {form.red, form.green, form.blue}) {
         QCOMPARE(field->maximum(), 255.0);
         QCOMPARE(field->formatter()->decimals(), 0);
-        QCOMPARE(field->property("inputFieldSize").value<VNDoubleSpinBox::InputFieldSize>(), VNDoubleSpinBox::Small);
     }
     QCOMPARE(form.fields(), form.display->color());
     QCOMPARE(form.red->text(), QStringLiteral("255"));

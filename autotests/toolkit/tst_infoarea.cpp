@@ -40,7 +40,6 @@ class InfoAreaTest : public QObject
 private slots:
     void initTestCase();
     void cleanup();
-    void iconTypeEnum();
     void setIconType_data();
     void setIconType();
     void refusesUnknownIconType();
@@ -60,21 +59,6 @@ void InfoAreaTest::initTestCase()
 void InfoAreaTest::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void InfoAreaTest::iconTypeEnum()
-{
-    const QMetaObject& meta = VNInfoArea::staticMetaObject;
-    const int index = meta.indexOfEnumerator("IconType");
-    QVERIFY(index >= 0);
-    const QMetaEnum types = meta.enumerator(index);
-    QCOMPARE(types.keyCount(), 6);
-    const char* keys[] = {"NoIcon", "Info", "Warning", "Error", "Success", "Help"};
-    for (int value = 0; value < 6; ++value) {
-        QCOMPARE(types.value(value), value);
-        QCOMPARE(QLatin1String(types.key(value)), QLatin1String(keys[value]));
-    }
-    QCOMPARE(VNInfoArea().iconType(), VNInfoArea::NoIcon);
 }
 
 void InfoAreaTest::setIconType_data()

@@ -62,7 +62,6 @@ void TestVirtualSliderDialog::form()
     TestVirtualSlider dialog(nullptr);
     QCOMPARE(dialog.objectName(), QStringLiteral("TestVirtualSliderClass"));
     QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
-    QCOMPARE(dialog.size(), QSize(613, 657));
     QCOMPARE(child<QWidget>(&dialog, "m_groupBox")->property("title").toString(), QStringLiteral("GroupBox"));
     QCOMPARE(child<VNRadioButton>(&dialog, "m_vnRadioButton_3")->text(), QStringLiteral("RadioButton"));
     QCOMPARE(child<VNCheckBox>(&dialog, "m_vnCheckBox_1")->text(), QStringLiteral("CheckBox"));
