@@ -17,7 +17,7 @@ class TestAlignmentDialog : public QObject
 private slots:
     void cleanup();
 
-    void everyWidgetIsNamed();
+    void form();
     void threeButtonsCarryMenus_data();
     void threeButtonsCarryMenus();
     void rowsShareEdges();
@@ -29,17 +29,45 @@ void TestAlignmentDialog::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void TestAlignmentDialog::everyWidgetIsNamed()
+// What robots rely on: the names, classes and texts of the form, one row per column of the grid.
+void TestAlignmentDialog::form()
 {
+    const char* widgets[][3] = {
+        {"m_showGuides", "QCheckBox", "Show guide lines"},
+        {"m_headerState", "VNLabel", "State"},
+        {"m_headerLabel", "VNLabel", "VNLabel"},
+        {"m_headerLineEdit", "VNLabel", "VNLineEdit"},
+        {"m_headerSpinBox", "VNLabel", "VNDoubleSpinBox"},
+        {"m_headerPushButton", "VNLabel", "VNPushButton"},
+        {"m_headerMenuButton", "VNLabel", "Menu button"},
+        {"m_stateNormal", "QLabel", "Normal"},
+        {"m_stateNeedInput", "QLabel", "Need input"},
+        {"m_stateReadOnly", "QLabel", "Read-only"},
+        {"m_stateDisabled", "QLabel", "Disabled"},
+        {"m_labelNormal", "VNLabel", "Length:"},
+        {"m_lineEditNormal", "VNLineEdit", "Beam 1"},
+        {"m_lineEditNeedInput", "VNLineEdit", ""},
+        {"m_lineEditReadOnly", "VNLineEdit", "Fixed support"},
+        {"m_lineEditDisabled", "VNLineEdit", "Not used"},
+        {"m_spinBoxNormal", "VNDoubleSpinBox", nullptr},
+        {"m_pushButtonNormal", "VNPushButton", "Apply"},
+        {"m_fileMenuButton", "VNPushButton", "File"},
+        {"m_editMenuButton", "VNButton", "Edit"},
+        {"m_viewMenuButton", "VNButton", "View"},
+        {"m_toolButtonDisabled", "VNButton", "Tool"},
+        {"m_baselineLabel", "VNLabel", "Baseline xg:"},
+        {"m_baselineLineEdit", "VNLineEdit", "Text xg"},
+        {"m_baselineSpinBox", "VNDoubleSpinBox", nullptr},
+        {"m_baselinePushButton", "VNPushButton", "Button xg"},
+    };
     TestAlignment dialog(nullptr);
     QCOMPARE(dialog.windowTitle(), QStringLiteral("TestAlignment"));
-    for (QWidget* widget : dialog.findChildren<QWidget*>()) {
-        // Inner parts of Qt's own widgets carry "qt_" names or none; the dialog's widgets all have one.
-        if (widget->parentWidget() != &dialog && !widget->parentWidget()->objectName().startsWith("m_"))
-            continue;
-        if (widget->objectName().startsWith("qt_") || widget->inherits("QMenu"))
-            continue;
-        QVERIFY2(widget->objectName().startsWith("m_"), widget->metaObject()->className());
+    for (const auto& expected : widgets) {
+        QWidget* widget = dialog.findChild<QWidget*>(QLatin1String(expected[0]));
+        QVERIFY2(widget, expected[0]);
+        QCOMPARE(widget->metaObject()->className(), expected[1]);
+        if (expected[2])
+            QCOMPARE(widget->property("text").toString(), QString::fromUtf8(expected[2]));
     }
     QCOMPARE(dialog.findChildren<VNLineEdit*>().size(), 5);
     QCOMPARE(dialog.findChildren<VNDoubleSpinBox*>().size(), 5);
