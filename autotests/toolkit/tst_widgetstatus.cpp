@@ -228,24 +228,25 @@ void WidgetStatusTest::lookNames_data()
     QTest::addColumn<int>("word");
     QTest::addColumn<QString>("look");
     QTest::addColumn<QString>("sigma");
-    QTest::newRow("nothing") << 0x0 << "undef"
-                             << "none";
-    QTest::newRow("need input over different") << 0x422 << "needInput"
-                                               << "none";
-    QTest::newRow("different over standard") << 0x3402 << "different"
-                                             << "none";
-    QTest::newRow("locked over changed") << 0x33000 << "standardChangedLocked"
-                                         << "none";
-    QTest::newRow("default changed over default") << 0xF000 << "standardDefaultChanged"
-                                                  << "none";
-    QTest::newRow("standard over user edit") << 0x3002 << "standardDefined"
-                                             << "none";
-    QTest::newRow("sigma error over active") << 0x340 << "undef"
-                                             << "invalid";
-    QTest::newRow("sigma standard changed over active") << 0x101C0 << "standardChanged"
-                                                        << "standardChanged";
-    QTest::newRow("compare alone") << 0x800 << "undef"
-                                   << "none";
+    const struct
+    {
+        const char* tag;
+        int word;
+        const char* look;
+        const char* sigma;
+    } table[] = {
+        {"nothing", 0x0, "undef", "none"},
+        {"need input over different", 0x422, "needInput", "none"},
+        {"different over standard", 0x3402, "different", "none"},
+        {"locked over changed", 0x33000, "standardChangedLocked", "none"},
+        {"default changed over default", 0xF000, "standardDefaultChanged", "none"},
+        {"standard over user edit", 0x3002, "standardDefined", "none"},
+        {"sigma error over active", 0x340, "undef", "invalid"},
+        {"sigma standard changed over active", 0x101C0, "standardChanged", "standardChanged"},
+        {"compare alone", 0x800, "undef", "none"},
+    };
+    for (const auto& row : table)
+        QTest::newRow(row.tag) << row.word << QString::fromLatin1(row.look) << QString::fromLatin1(row.sigma);
 }
 
 void WidgetStatusTest::lookNames()
@@ -295,6 +296,12 @@ void WidgetStatusTest::statusLooks()
             const QImage look = widget->grab().toImage();
             if (subControl.isValid())
                 QVERIFY2(hasDarkPixel(look, subControl), qPrintable(name + QStringLiteral(": no arrow")));
+            if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget)) {
+                const QString before = spin->text();
+                QTest::mouseClick(spin, Qt::LeftButton, Qt::NoModifier, subControl.center());
+                QVERIFY2(spin->text() != before, qPrintable(name + QStringLiteral(": the up arrow does not step")));
+                spin->stepDown();
+            }
             if (checkable) {
                 QStyleOptionButton option;
                 option.initFrom(button);
