@@ -15,6 +15,7 @@
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -69,6 +70,21 @@ const QList<QPair<const char*, std::function<QWidget*()>>> families = {
      [] {
          auto* button = new QToolButton;
          button->setText(QStringLiteral("Tool"));
+         return button;
+     }},
+    {"editable QComboBox",
+     [] {
+         auto* combo = new QComboBox;
+         combo->setEditable(true);
+         combo->addItem(QStringLiteral("Steel"));
+         return combo;
+     }},
+    {"QToolButton with menu",
+     [] {
+         auto* button = new QToolButton;
+         button->setText(QStringLiteral("File"));
+         button->setPopupMode(QToolButton::MenuButtonPopup);
+         button->setMenu(new QMenu(button));
          return button;
      }},
     {"QCheckBox", [] { return new QCheckBox(QStringLiteral("Option")); }},
