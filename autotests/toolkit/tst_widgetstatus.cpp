@@ -172,6 +172,7 @@ private slots:
     void lookNames();
     void statusLooks_data();
     void statusLooks();
+    void fieldsShareOneHeight();
     void fillColours_data();
     void fillColours();
     void readOnlyStaysReadable();
@@ -341,6 +342,21 @@ void WidgetStatusTest::statusLooks()
             QVERIFY2(looks.at(a) != looks.at(b),
                      qPrintable(QStringLiteral("\"%1\" looks like \"%2\"").arg(names.at(a), names.at(b))));
         }
+    }
+}
+
+void WidgetStatusTest::fieldsShareOneHeight()
+{
+    // Side by side in a row, fields and buttons share their top and bottom edges.
+    QLineEdit edit(QStringLiteral("Beam 1"));
+    const int height = edit.sizeHint().height();
+    for (const auto& family : families) {
+        QScopedPointer<QWidget> widget(family.second());
+        if (!qobject_cast<QCheckBox*>(widget.data()) && !qobject_cast<QRadioButton*>(widget.data()))
+            QVERIFY2(widget->sizeHint().height() == height, qPrintable(QStringLiteral("%1: %2 px, line edit %3 px")
+                                                                           .arg(QLatin1String(family.first))
+                                                                           .arg(widget->sizeHint().height())
+                                                                           .arg(height)));
     }
 }
 
