@@ -72,6 +72,7 @@ private slots:
     void nothingFits();
     void settersChangeResult();
     void shapedTextThatFitsStays();
+    void loneEllipsisOnlyWhenNothingElseFits();
 };
 
 void PathShortenerTest::fitsMeasuredWidth_data()
@@ -216,6 +217,18 @@ void PathShortenerTest::shapedTextThatFitsStays()
     const int width = metrics.horizontalAdvance(path);
     QCOMPARE(PathShortener(width, metrics).adjust(path), path);
     QVERIFY(PathShortener(width - 20, metrics).adjust(path) != path);
+}
+
+void PathShortenerTest::loneEllipsisOnlyWhenNothingElseFits()
+{
+    const QString path = QStringLiteral("C:\\ユーザー\\山田\\ドキュメント\\測定結果の一覧表.csv");
+    const QFontMetrics metrics(QFont(QStringLiteral("DejaVu Sans Mono"), 10));
+    for (int width = 10; width <= 160; ++width) {
+        const QString result = PathShortener(width, metrics).adjust(path);
+        QVERIFY2(metrics.horizontalAdvance(result) <= width, qPrintable(QString::number(width)));
+        const bool nameWouldFit = metrics.horizontalAdvance(QStringLiteral("測") + ellipsis) <= width;
+        QVERIFY2(!(nameWouldFit && result == ellipsis), qPrintable(QStringLiteral("%1 px: %2").arg(width).arg(result)));
+    }
 }
 
 QTEST_MAIN(PathShortenerTest)

@@ -30,6 +30,7 @@ private slots:
     void valueEditReadsNumbersAndUnits_data();
     void valueEditReadsNumbersAndUnits();
     void valueEditKeepsUnreadableText();
+    void valueEditRefusesAmbiguousSeparators();
     void labelShowsUnitValueThroughFormatter();
     void labelUsesOwnTextAsPattern();
     void labelSlidesItsBuddy();
@@ -137,6 +138,27 @@ void TestValueWidgets::valueEditReadsNumbersAndUnits()
     QCOMPARE(edit.text(), shown);
     QCOMPARE(changed.count(), 1);
     QCOMPARE(changed.first().first().toDouble(), value);
+}
+
+void TestValueWidgets::valueEditRefusesAmbiguousSeparators()
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    VNValueEdit edit;
+    edit.setValue(3.0);
+    edit.selectAll();
+    QTest::keyClicks(&edit, "2.000");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    const bool refused = edit.hasInputError() && edit.value() == 3.0;
+    const QString toolTip = edit.toolTip();
+    edit.selectAll();
+    QTest::keyClicks(&edit, "0.125");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    const double typed = edit.value();
+    QLocale::setDefault(before);
+    QVERIFY(refused);
+    QVERIFY2(toolTip.contains("more than one way"), qPrintable(toolTip));
+    QCOMPARE(typed, 0.125);
 }
 
 void TestValueWidgets::valueEditKeepsUnreadableText()

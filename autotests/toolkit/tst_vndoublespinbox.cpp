@@ -8,6 +8,7 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 namespace {
 // The text part of the field, where users type and drag.
@@ -68,6 +69,8 @@ private slots:
     void typedTextIsReadInDisplayUnit_data();
     void typedTextIsReadInDisplayUnit();
     void unreadableTextKeepsTheValue();
+    void separatorsNeverChangeMagnitude();
+    void negativeFactorLimitsInDisplayUnit();
     void limitsInEitherUnit_data();
     void limitsInEitherUnit();
     void emptyStateShowsNothingAndKeepsValue();
@@ -154,6 +157,46 @@ void TestVNDoubleSpinBox::unreadableTextKeepsTheValue()
     // A force is no length: the value stays.
     typeAndConfirm(&field, "3 N");
     QCOMPARE(field.value(), 12.0);
+}
+
+void TestVNDoubleSpinBox::separatorsNeverChangeMagnitude()
+{
+    struct GermanSession
+    {
+        const QLocale before;
+        GermanSession() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+        ~GermanSession() { QLocale::setDefault(before); }
+    } german;
+    VNDoubleSpinBox field;
+    field.setDecimals(3);
+    field.setRange(0, 10000);
+    field.setValue(7.0);
+    field.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&field));
+    typeAndConfirm(&field, "0.125");
+    QCOMPARE(field.value(), 0.125);
+    typeAndConfirm(&field, "1,5");
+    QCOMPARE(field.value(), 1.5);
+    // "1.500" is fifteen hundred to some readers and one and a half to others: refused, with a
+    // tool tip, keeping the value.
+    typeAndConfirm(&field, "1.500");
+    QCOMPARE(field.value(), 1.5);
+    QVERIFY2(QToolTip::text().contains(QStringLiteral("1.500")), qPrintable(QToolTip::text()));
+    QCOMPARE(editOf(&field)->text(), QStringLiteral("1,500"));
+}
+
+void TestVNDoubleSpinBox::negativeFactorLimitsInDisplayUnit()
+{
+    VNDoubleSpinBox field;
+    field.setValueUnit("mm");
+    field.setDisplayUnit("inch", true);
+    field.setFactor(-2.0);
+    field.setMinimumInDisplayUnit(-4.0);
+    field.setMaximumInDisplayUnit(-1.0);
+    QCOMPARE(field.minimum(), 12.7);
+    QCOMPARE(field.maximum(), 50.8);
+    QCOMPARE(field.minimumInDisplayUnit(), -4.0);
+    QCOMPARE(field.maximumInDisplayUnit(), -1.0);
 }
 
 void TestVNDoubleSpinBox::limitsInEitherUnit_data()

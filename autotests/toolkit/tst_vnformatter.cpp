@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QtMath>
 
+#include <cmath>
+
 class TestVNFormatter : public QObject
 {
     Q_OBJECT
@@ -23,6 +25,7 @@ private slots:
     void textRoundTrip();
     void valueFromText_data();
     void valueFromText();
+    void everyFiniteDoubleInEveryNotation();
     void displayUnitResolution();
     void settingsChangedOnlyOnEffectiveChanges();
     void globalChangeSignalsOnlyAffectedFormatters();
@@ -91,6 +94,17 @@ void TestVNFormatter::notation_data()
     QTest::newRow("engineering micro") << 3 << 2 << 3 << -0.00012345 << "-123e-06";
     QTest::newRow("engineering rounds up") << 3 << 2 << 4 << 999.96 << "1.000e+03";
     QTest::newRow("engineering zero") << 3 << 2 << 3 << 0.0 << "0.00e+00";
+    QTest::newRow("engineering smallest subnormal") << 3 << 2 << 3 << 4.9406564584124654e-324 << "4.94e-324";
+    QTest::newRow("engineering subnormal") << 3 << 2 << 3 << -2.5e-320 << "-25.0e-321";
+    QTest::newRow("engineering largest") << 3 << 2 << 3 << 1.7976931348623157e308 << "180e+306";
+    QTest::newRow("scientific subnormal") << 1 << 2 << 3 << 4.9406564584124654e-324 << "4.94e-324";
+    // Half a hundredth rounds up, never down to zero; just below it rounds to zero, unsigned.
+    QTest::newRow("standard 0.005") << 0 << 2 << 6 << 0.005 << "0.01";
+    QTest::newRow("standard 0.007") << 0 << 2 << 6 << 0.007 << "0.01";
+    QTest::newRow("standard -0.005") << 0 << 2 << 6 << -0.005 << "-0.01";
+    QTest::newRow("standard 0.0049") << 0 << 2 << 6 << 0.0049 << "0.00";
+    QTest::newRow("standard -0.0049") << 0 << 2 << 6 << -0.0049 << "0.00";
+    QTest::newRow("standard 0.0005 at three") << 0 << 3 << 6 << 0.0005 << "0.001";
 }
 
 void TestVNFormatter::notation()
@@ -133,12 +147,12 @@ void TestVNFormatter::textRoundTrip_data()
     QTest::newRow("C, mm shown in inch") << "C"
                                          << "mm"
                                          << "inch" << 0 << "48.6050 inch";
-    QTest::newRow("German, groups") << "de_DE"
-                                    << "mm"
-                                    << "mm" << 0 << "1.234,5678 mm";
-    QTest::newRow("US English, groups") << "en_US"
-                                        << "mm"
-                                        << "mm" << 0 << "1,234.5678 mm";
+    QTest::newRow("German, no groups") << "de_DE"
+                                       << "mm"
+                                       << "mm" << 0 << "1234,5678 mm";
+    QTest::newRow("US English, no groups") << "en_US"
+                                           << "mm"
+                                           << "mm" << 0 << "1234.5678 mm";
     QTest::newRow("German, scientific") << "de_DE"
                                         << "N"
                                         << "kN" << 1 << "1,2346e+00 kN";
@@ -187,9 +201,26 @@ void TestVNFormatter::valueFromText_data()
     QTest::newRow("German, C decimal point") << "de_DE"
                                              << ""
                                              << "1.5" << true << 1.5;
-    QTest::newRow("German group separator") << "de_DE"
-                                            << ""
-                                            << "1.500" << true << 1500.0;
+    // A separator never changes the magnitude: grouping is refused, and so is what could be read
+    // either way.
+    const struct
+    {
+        const char* locale;
+        const char* text;
+        bool ok;
+        double value;
+    } separators[] = {
+        {"de_DE", "0.125", true, 0.125},   {"de_DE", "0,125", true, 0.125},   {"de_DE", "1.500", false, 0},
+        {"de_DE", "2.000", false, 0},      {"de_DE", "-1.500", false, 0},     {"de_DE", "1.234,5", false, 0},
+        {"de_DE", "1.234.567", false, 0},  {"de_DE", "1234.5", true, 1234.5}, {"de_DE", "1.5e3", true, 1500},
+        {"en_US", "0,125", false, 0},      {"en_US", "1,500", false, 0},      {"en_US", "1.500", true, 1.5},
+        {"fr_FR", "1\u202f000", false, 0}, {"fr_FR", "0,5", true, 0.5},       {"fr_FR", "0.5", true, 0.5},
+        {"de_CH", "1\u2019000", false, 0}, {"C", "1,500", false, 0},          {"de_DE", "0.125 mm", true, 0.125},
+    };
+    for (const auto& row : separators) {
+        QTest::addRow("%s %s", row.locale, row.text)
+            << row.locale << "" << QString::fromUtf8(row.text) << row.ok << row.value;
+    }
     QTest::newRow("no unit means display unit") << "C"
                                                 << "inch"
                                                 << "2" << true << 50.8;
@@ -231,6 +262,27 @@ void TestVNFormatter::valueFromText()
     bool parsed = !ok;
     QCOMPARE(formatter.valueFromText(text, &parsed), expectedMm);
     QCOMPARE(parsed, ok);
+}
+
+void TestVNFormatter::everyFiniteDoubleInEveryNotation()
+{
+    // Powers of two from the smallest subnormal to the largest double, both signs: every text
+    // reads back as a finite number within the shown precision.
+    VNFormatter formatter;
+    formatter.setPrecision(3);
+    for (int notation = VNFormatter::ScientificNotation; notation <= VNFormatter::EngineeringNotation; ++notation) {
+        formatter.setNotation(notation);
+        for (int exponent = -1074; exponent <= 1023; exponent += 7) {
+            for (double sign : {1.0, -1.0}) {
+                const double value = sign * std::ldexp(1.0, exponent);
+                const QString text = formatter.textFromValue(value);
+                bool ok = false;
+                const double back = formatter.valueFromText(text, &ok);
+                QVERIFY2(ok && qAbs(back - value) <= 0.006 * qAbs(value),
+                         qPrintable(QStringLiteral("%1 (notation %2)").arg(text).arg(notation)));
+            }
+        }
+    }
 }
 
 void TestVNFormatter::displayUnitResolution()
@@ -282,7 +334,7 @@ void TestVNFormatter::settingsChangedOnlyOnEffectiveChanges()
     formatter.setUseGlobalDisplayUnit(true);
     QCOMPARE(spy.count(), 8);
 
-    formatter.setValueUnit("MM");
+    formatter.setValueUnit("Millimetre");
     formatter.setDisplayUnit("in");
     formatter.setDecimals(-5);
     formatter.setDecimals(-1);

@@ -1,16 +1,32 @@
 #include <SetWidgetsReadOnly.h>
+#include <VNCheckBox.h>
+#include <VNDoubleSpinBox.h>
 #include <VNLabel.h>
+#include <VNLineEdit.h>
 #include <VNPushButton.h>
+#include <VNRadioButton.h>
 #include <VNStyleSheet.h>
 #include <VNWidgetInterface.h>
 #include <VNWidgetStatus.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QHBoxLayout>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QStyleOptionSpinBox>
 #include <QTest>
+#include <QToolButton>
+
+#include <functional>
 
 namespace {
 using Flags = VNWidgetStatus::StatusFlags;
@@ -35,6 +51,103 @@ const QList<QPair<const char*, int>> galleryWords = {
     {"Std Default Changed", 0xF000},
 };
 
+// Every widget family the toolkit style gives a status look, plain and toolkit.
+const QList<QPair<const char*, std::function<QWidget*()>>> families = {
+    {"QLineEdit", [] { return new QLineEdit(QStringLiteral("42.0")); }},
+    {"VNLineEdit", [] { return new VNLineEdit(QStringLiteral("42.0")); }},
+    {"QSpinBox", [] { return new QSpinBox; }},
+    {"QDoubleSpinBox", [] { return new QDoubleSpinBox; }},
+    {"VNDoubleSpinBox", [] { return new VNDoubleSpinBox; }},
+    {"QComboBox",
+     [] {
+         auto* combo = new QComboBox;
+         combo->addItems({QStringLiteral("Steel"), QStringLiteral("Aluminium")});
+         return combo;
+     }},
+    {"QPushButton", [] { return new QPushButton(QStringLiteral("Apply")); }},
+    {"VNPushButton", [] { return new VNPushButton(QStringLiteral("Apply")); }},
+    {"QToolButton",
+     [] {
+         auto* button = new QToolButton;
+         button->setText(QStringLiteral("Tool"));
+         return button;
+     }},
+    {"editable QComboBox",
+     [] {
+         auto* combo = new QComboBox;
+         combo->setEditable(true);
+         combo->addItem(QStringLiteral("Steel"));
+         return combo;
+     }},
+    {"QToolButton with menu",
+     [] {
+         auto* button = new QToolButton;
+         button->setText(QStringLiteral("File"));
+         button->setPopupMode(QToolButton::MenuButtonPopup);
+         button->setMenu(new QMenu(button));
+         return button;
+     }},
+    {"QPlainTextEdit", [] { return new QPlainTextEdit(QStringLiteral("Result")); }},
+    {"QCheckBox", [] { return new QCheckBox(QStringLiteral("Option")); }},
+    {"VNCheckBox", [] { return new VNCheckBox(QStringLiteral("Option")); }},
+    {"QRadioButton", [] { return new QRadioButton(QStringLiteral("Choice")); }},
+    {"VNRadioButton", [] { return new VNRadioButton(QStringLiteral("Choice")); }},
+};
+
+void setStatus(QWidget* widget, int word)
+{
+    if (auto* toolkitWidget = dynamic_cast<VNWidgetInterface*>(widget))
+        toolkitWidget->setWidgetStatus(Flags(word));
+    else
+        VNWidgetStatus::setStatusProperty(widget, Flags(word));
+}
+
+// Where a family keeps what makes it work: the step arrows, the drop-down arrow.
+QRect subControlRect(QWidget* widget)
+{
+    if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget)) {
+        QStyleOptionSpinBox option;
+        option.initFrom(spin);
+        option.subControls = QStyle::SC_All;
+        option.frame = spin->hasFrame();
+        option.stepEnabled = QAbstractSpinBox::StepUpEnabled | QAbstractSpinBox::StepDownEnabled;
+        return spin->style()->subControlRect(QStyle::CC_SpinBox, &option, QStyle::SC_SpinBoxUp, spin);
+    }
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) {
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        option.subControls = QStyle::SC_All;
+        option.frame = combo->hasFrame();
+        return combo->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo);
+    }
+    return QRect();
+}
+
+bool hasDarkPixel(const QImage& image, const QRect& rect)
+{
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x) {
+            if (qGray(image.pixel(x, y)) < 130)
+                return true;
+        }
+    }
+    return false;
+}
+
+bool hasColourNear(const QImage& image, const QRect& rect, const QColor& colour)
+{
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        for (int x = rect.left(); x <= rect.right(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (qAbs(pixel.red() - colour.red()) + qAbs(pixel.green() - colour.green()) +
+                    qAbs(pixel.blue() - colour.blue()) <
+                40)
+                return true;
+        }
+    }
+    return false;
+}
+
 QImage lookOf(int word)
 {
     QLineEdit edit(QStringLiteral("42.0"));
@@ -56,8 +169,14 @@ private slots:
     void dominantStatus_data();
     void dominantStatus();
     void setFlagSwitchesOneBit();
-    void everyWordHasItsOwnLook();
-    void needInputIsRed();
+    void lookNames_data();
+    void lookNames();
+    void statusLooks_data();
+    void statusLooks();
+    void fieldsShareOneHeight();
+    void fillColours_data();
+    void fillColours();
+    void readOnlyStaysReadable();
     void toolkitWidgetsPublishTheirStatus();
     void readOnly_data();
     void readOnly();
@@ -122,15 +241,101 @@ void WidgetStatusTest::setFlagSwitchesOneBit()
     QCOMPARE(int(VNWidgetStatus::setFlag(Flags(0x820), Flags(0x800), false)), 0x20);
 }
 
-void WidgetStatusTest::everyWordHasItsOwnLook()
+void WidgetStatusTest::lookNames_data()
 {
-    // Each word alone and with the compare bit on top: thirty-two looks, no two alike.
+    QTest::addColumn<int>("word");
+    QTest::addColumn<QString>("look");
+    QTest::addColumn<QString>("sigma");
+    const struct
+    {
+        const char* tag;
+        int word;
+        const char* look;
+        const char* sigma;
+    } table[] = {
+        {"nothing", 0x0, "undef", "none"},
+        {"need input over different", 0x422, "needInput", "none"},
+        {"different over standard", 0x3402, "different", "none"},
+        {"locked over changed", 0x33000, "standardChangedLocked", "none"},
+        {"default changed over default", 0xF000, "standardDefaultChanged", "none"},
+        {"standard over user edit", 0x3002, "standardDefined", "none"},
+        {"sigma error over active", 0x340, "undef", "invalid"},
+        {"sigma standard changed over active", 0x101C0, "standardChanged", "standardChanged"},
+        {"compare alone", 0x800, "undef", "none"},
+    };
+    for (const auto& row : table)
+        QTest::newRow(row.tag) << row.word << QString::fromLatin1(row.look) << QString::fromLatin1(row.sigma);
+}
+
+void WidgetStatusTest::lookNames()
+{
+    QFETCH(int, word);
+    QFETCH(QString, look);
+    QFETCH(QString, sigma);
+    QCOMPARE(VNWidgetStatus::lookName(Flags(word)), look);
+    QCOMPARE(VNWidgetStatus::sigmaLookName(Flags(word)), sigma);
+}
+
+void WidgetStatusTest::statusLooks_data()
+{
+    QTest::addColumn<int>("family");
+    for (int family = 0; family < families.size(); ++family)
+        QTest::newRow(families.at(family).first) << family;
+}
+
+// Every gallery word, alone and with "Compare Differs" on top, on one widget of the family: each
+// look is its own, the widget keeps its size and place, its arrows and its indicator.
+void WidgetStatusTest::statusLooks()
+{
+    QFETCH(int, family);
+    QWidget window;
+    auto* layout = new QHBoxLayout(&window);
+    QWidget* widget = families.at(family).second();
+    layout->addWidget(widget);
+    layout->addWidget(new QLineEdit(QStringLiteral("neighbour")));
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto* button = qobject_cast<QAbstractButton*>(widget);
+    const bool checkable = qobject_cast<QCheckBox*>(widget) || qobject_cast<QRadioButton*>(widget);
+
+    const QSize sizeHint = widget->sizeHint();
+    const QRect geometry = widget->geometry();
+    const QRect subControl = subControlRect(widget);
     QList<QImage> looks;
     QStringList names;
     for (int compare : {0, 0x800}) {
         for (const auto& word : galleryWords) {
-            looks << lookOf(word.second | compare);
-            names << QLatin1String(word.first) + (compare ? QStringLiteral(" + Compare Differs") : QString());
+            const QString name =
+                QLatin1String(word.first) + (compare ? QStringLiteral(" + Compare Differs") : QString());
+            setStatus(widget, word.second | compare);
+            QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            QCOMPARE(widget->sizeHint(), sizeHint);
+            QVERIFY2(widget->geometry() == geometry, qPrintable(name));
+            const QImage look = widget->grab().toImage();
+            if (subControl.isValid())
+                QVERIFY2(hasDarkPixel(look, subControl), qPrintable(name + QStringLiteral(": no arrow")));
+            if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget)) {
+                const QString before = spin->text();
+                QTest::mouseClick(spin, Qt::LeftButton, Qt::NoModifier, subControl.center());
+                QVERIFY2(spin->text() != before, qPrintable(name + QStringLiteral(": the up arrow does not step")));
+                spin->stepDown();
+            }
+            if (checkable) {
+                QStyleOptionButton option;
+                option.initFrom(button);
+                const QRect indicator = widget->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, widget);
+                QVERIFY2(hasDarkPixel(look, indicator), qPrintable(name + QStringLiteral(": no indicator")));
+                button->setChecked(!button->isChecked());
+                QVERIFY2(widget->grab().toImage() != look, qPrintable(name + QStringLiteral(": no check mark")));
+                button->setChecked(!button->isChecked());
+            }
+            if (compare) {
+                const QRect topEdge(0, 0, look.width(), 2);
+                QVERIFY2(hasColourNear(look, topEdge, QColor(0xe0, 0x12, 0x9a)),
+                         qPrintable(name + QStringLiteral(": no compare frame")));
+            }
+            looks << look;
+            names << name;
         }
     }
     for (int a = 0; a < looks.size(); ++a) {
@@ -141,11 +346,78 @@ void WidgetStatusTest::everyWordHasItsOwnLook()
     }
 }
 
-void WidgetStatusTest::needInputIsRed()
+void WidgetStatusTest::fieldsShareOneHeight()
 {
-    const QImage image = lookOf(0x20);
-    const QColor fill = image.pixelColor(image.width() - 8, image.height() / 2);
-    QVERIFY2(fill.red() > fill.green() + 25 && fill.red() > fill.blue() + 25, qPrintable(fill.name()));
+    // Side by side in a row, fields and buttons share their top and bottom edges.
+    QLineEdit edit(QStringLiteral("Beam 1"));
+    const int height = edit.sizeHint().height();
+    for (const auto& family : families) {
+        QScopedPointer<QWidget> widget(family.second());
+        if (!qobject_cast<QCheckBox*>(widget.data()) && !qobject_cast<QRadioButton*>(widget.data()) &&
+            !qobject_cast<QPlainTextEdit*>(widget.data()))
+            QVERIFY2(widget->sizeHint().height() == height, qPrintable(QStringLiteral("%1: %2 px, line edit %3 px")
+                                                                           .arg(QLatin1String(family.first))
+                                                                           .arg(widget->sizeHint().height())
+                                                                           .arg(height)));
+    }
+}
+
+void WidgetStatusTest::fillColours_data()
+{
+    // What designers compare: the fill of each main look, and the sigma bar on the left edge.
+    QTest::addColumn<int>("word");
+    QTest::addColumn<QColor>("fill");
+    QTest::addColumn<QColor>("leftEdge");
+    const QColor frame(0x9a, 0xa6, 0xb2);
+    QTest::newRow("None") << 0x0 << QColor(Qt::white) << frame;
+    QTest::newRow("Need Input") << 0x20 << QColor(0xff, 0xd6, 0xd6) << QColor(0xd3, 0x2f, 0x2f);
+    QTest::newRow("User Edited") << 0x2 << QColor(0xdc, 0xeb, 0xff) << QColor(0x3d, 0x7c, 0xc9);
+    QTest::newRow("Different") << 0x400 << QColor(0xff, 0xf1, 0xb8) << QColor(0xc9, 0xa4, 0x00);
+    QTest::newRow("Sigma Enabled") << 0x40 << QColor(Qt::white) << QColor(0x8c, 0x9c, 0xb0);
+    QTest::newRow("Sigma Active") << 0x140 << QColor(Qt::white) << QColor(0x1f, 0x5f, 0xbf);
+    QTest::newRow("Sigma Invalid") << 0x340 << QColor(Qt::white) << QColor(0xc2, 0x18, 0x5b);
+    QTest::newRow("Standard Defined") << 0x3000 << QColor(0xdf, 0xf2, 0xdf) << QColor(0x4c, 0x9a, 0x4c);
+    QTest::newRow("Standard Changed") << 0x13000 << QColor(0xff, 0xe2, 0xc4) << QColor(0xe0, 0x7b, 0x00);
+    QTest::newRow("Standard Locked") << 0x23000 << QColor(0xe4, 0xe4, 0xe4) << QColor(0x7a, 0x7a, 0x7a);
+    QTest::newRow("Std Changed Locked") << 0x33000 << QColor(0xee, 0xd9, 0xc8) << QColor(0x9c, 0x6a, 0x3f);
+    QTest::newRow("Standard Default") << 0x7000 << QColor(0xe0, 0xf0, 0xf8) << QColor(0x3d, 0x8f, 0xb0);
+    QTest::newRow("Std Default Changed") << 0xF000 << QColor(0xf1, 0xe0, 0xf5) << QColor(0x9b, 0x4f, 0xb0);
+    QTest::newRow("Compare Differs") << 0x800 << QColor(Qt::white) << QColor(0xe0, 0x12, 0x9a);
+}
+
+void WidgetStatusTest::fillColours()
+{
+    QFETCH(int, word);
+    QFETCH(QColor, fill);
+    QFETCH(QColor, leftEdge);
+    const QImage image = lookOf(word);
+    const int middle = image.height() / 2;
+    QCOMPARE(image.pixelColor(image.width() - 8, middle).name(), fill.name());
+    QVERIFY2(hasColourNear(image, QRect(0, middle - 4, 1, 1), leftEdge),
+             qPrintable(image.pixelColor(0, middle - 4).name()));
+}
+
+void WidgetStatusTest::readOnlyStaysReadable()
+{
+    // Read-only result texts keep dark text; only disabled ones grey out.
+    QPlainTextEdit text(QStringLiteral("MMMMMMMM"));
+    text.resize(160, 40);
+    const auto darkestInk = [&text] {
+        const QImage image = text.grab().toImage();
+        int darkest = 255;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 6; x < image.width() - 6; ++x)
+                darkest = qMin(darkest, qGray(image.pixel(x, y)));
+        return darkest;
+    };
+    const int writable = darkestInk();
+    SetWidgetsReadOnly(true)(&text);
+    const QImage readOnly = text.grab().toImage();
+    QVERIFY2(darkestInk() < 90, qPrintable(QString::number(darkestInk())));
+    QVERIFY(qAbs(darkestInk() - writable) < 40);
+    text.setEnabled(false);
+    QVERIFY2(darkestInk() > 110, qPrintable(QString::number(darkestInk())));
+    QVERIFY(text.grab().toImage() != readOnly);
 }
 
 void WidgetStatusTest::toolkitWidgetsPublishTheirStatus()
@@ -212,7 +484,12 @@ void WidgetStatusTest::headerLabelLooksDifferent()
     label.resize(200, 30);
     const QImage plain = label.grab().toImage();
     label.setIsHeader(true);
-    QVERIFY(label.grab().toImage() != plain);
+    const QImage header = label.grab().toImage();
+    QVERIFY(header != plain);
+    // The rule under the header runs the whole width on the bottom line.
+    const int bottom = header.height() - 1;
+    for (int x : {0, header.width() / 2, header.width() - 1})
+        QCOMPARE(header.pixelColor(x, bottom).name(), QStringLiteral("#8aa2b8"));
 }
 
 QTEST_MAIN(WidgetStatusTest)

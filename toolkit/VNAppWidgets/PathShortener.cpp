@@ -220,27 +220,45 @@ QString PathShortener::withoutMiddleDirectories(const Parts& parts, Measure& mea
 }
 
 // Every directory is gone and the name still does not fit: elide the name in its middle, behind
-// the root while that leaves a piece of the name, otherwise on its own.
+// the root while that leaves a piece of the name, otherwise on its own, and as a last resort keep
+// only its beginning.
 QString PathShortener::withElidedName(const Parts& parts) const
 {
     const QString onlyEllipsis(ellipsis);
+    QString shortened;
     if (parts.name.isEmpty()) {
-        const QString elided = m_metrics.elidedText(parts.root, Qt::ElideRight, m_width);
-        if (!elided.isEmpty() && elided != onlyEllipsis && fits(elided))
-            return elided;
+        shortened = elidedToFit(QString(), parts.root, Qt::ElideRight);
     } else {
         QString prefix = parts.root;
         if (!parts.directories.isEmpty())
             prefix += onlyEllipsis + lastSeparator(parts.directories.constLast());
-        const QString behindRoot =
-            m_metrics.elidedText(parts.name, Qt::ElideMiddle, m_width - m_metrics.horizontalAdvance(prefix));
-        if (!behindRoot.isEmpty() && behindRoot != onlyEllipsis && fits(prefix + behindRoot))
-            return prefix + behindRoot;
-        const QString alone = m_metrics.elidedText(parts.name, Qt::ElideMiddle, m_width);
-        if (!alone.isEmpty() && alone != onlyEllipsis && fits(alone))
-            return alone;
+        shortened = elidedToFit(prefix, parts.name, Qt::ElideMiddle);
+        if (shortened.isEmpty())
+            shortened = elidedToFit(QString(), parts.name, Qt::ElideMiddle);
+        if (shortened.isEmpty())
+            shortened = elidedToFit(QString(), parts.name, Qt::ElideRight);
     }
+    if (!shortened.isEmpty())
+        return shortened;
     return fits(onlyEllipsis) ? onlyEllipsis : QString();
+}
+
+// prefix + text elided so that the whole fits. A text elided for a width can be wider than that
+// width once shaped as a whole (kerning, ligatures, fallback fonts), so narrower widths are
+// tried, each narrower by the overshoot, until it fits or nothing but the ellipsis is left.
+QString PathShortener::elidedToFit(const QString& prefix, const QString& text, Qt::TextElideMode mode) const
+{
+    int available = m_width - m_metrics.horizontalAdvance(prefix);
+    while (available > 0) {
+        const QString elided = m_metrics.elidedText(text, mode, available);
+        if (elided.isEmpty() || elided == QString(ellipsis))
+            return QString();
+        const int overshoot = m_metrics.horizontalAdvance(prefix + elided) - m_width;
+        if (overshoot <= 0)
+            return prefix + elided;
+        available -= overshoot;
+    }
+    return QString();
 }
 
 bool PathShortener::fits(const QString& text) const

@@ -41,6 +41,7 @@ private:
 
     QString withoutMiddleDirectories(const Parts& parts, Measure& measure) const;
     QString withElidedName(const Parts& parts) const;
+    QString elidedToFit(const QString& prefix, const QString& text, Qt::TextElideMode mode) const;
     bool fits(const QString& text) const;
 
     int m_width;

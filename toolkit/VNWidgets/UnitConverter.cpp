@@ -42,6 +42,7 @@ const UnitInfo unitInfos[] = {
     {UnitConverter::Minute, UnitConverter::Time, "min", 60.0, 0.0},
     {UnitConverter::DegreeCelsius, UnitConverter::Temperature, "\xc2\xb0\x43", 1.0, 273.15}, // °C
     {UnitConverter::Kelvin, UnitConverter::Temperature, "K", 1.0, 0.0},
+    {UnitConverter::Pascal, UnitConverter::Pressure, "Pa", 1.0, 0.0},
 };
 
 struct Alias
@@ -89,6 +90,7 @@ const Alias aliases[] = {
     {"\xe2\x84\x83", UnitConverter::DegreeCelsius}, // ℃
     {"celsius", UnitConverter::DegreeCelsius},
     {"kelvin", UnitConverter::Kelvin},
+    {"pascal", UnitConverter::Pascal},
 };
 
 const UnitInfo* infoOf(int unit)
@@ -116,7 +118,21 @@ struct UnitLookup
     void add(const QString& text, UnitConverter::Unit unit)
     {
         exact.insert(text, unit);
-        folded.insert(text.toCaseFolded(), unit);
+        if (isSpelledOut(text))
+            folded.insert(text.toCaseFolded(), unit);
+    }
+
+    // Names of four letters or more ("inch", "feet", "metre"); symbols such as "mm", "Pa" or
+    // "min" are not, and their case decides what they mean.
+    static bool isSpelledOut(const QString& text)
+    {
+        if (text.size() < 4)
+            return false;
+        for (const QChar c : text) {
+            if (!c.isLetter())
+                return false;
+        }
+        return true;
     }
 };
 
@@ -143,8 +159,8 @@ UnitConverter::Unit UnitConverter::unitFromText(const QString& text, bool* ok)
 {
     const QString trimmed = text.trimmed();
     const UnitLookup& lookup = unitLookup();
-    // Exact spelling first: SI prefixes are case sensitive, the case-folded fallback only
-    // helps with "MM" or "Inch" because no two of the toolkit's units differ by case alone.
+    // Exact spelling first: SI prefixes are case sensitive, so only spelled-out names have a
+    // case-folded fallback ("Inch", "Millimetre").
     auto found = lookup.exact.constFind(trimmed);
     if (found == lookup.exact.constEnd()) {
         found = lookup.folded.constFind(trimmed.toCaseFolded());

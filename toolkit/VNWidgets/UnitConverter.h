@@ -10,9 +10,10 @@
 // quantity each one measures, and the conversion between units of the same quantity.
 //
 // Unit texts are what users type and read: "" (no unit), "%", "deg", "rad", "mm", "cm", "m",
-// "inch", "ft", "N", "kN", "MPa", "kPa", "bar", "psi", "kg", "t", "s", "min", "°C", "K".
-// Parsing also accepts common spellings ("°", "in", "feet", "N/mm²", "degC", "sec", ...) and
-// any letter case as long as the text stays unambiguous.
+// "inch", "ft", "N", "kN", "MPa", "kPa", "bar", "psi", "kg", "t", "s", "min", "°C", "K", "Pa".
+// Parsing also accepts common spellings ("°", "in", "feet", "N/mm²", "degC", "sec", ...). Symbols
+// are matched exactly as written, because their case carries meaning ("Mm" is a megametre, not a
+// millimetre; "M" is no metre); only spelled-out names ("Inch", "Millimetre") may take any case.
 //
 // A value without a unit is a pure number (a ratio of 1), so it converts to and from percent.
 class VNWIDGETS_EXPORT UnitConverter
@@ -43,7 +44,8 @@ public:
         Second = 17,
         Minute = 18,
         DegreeCelsius = 19,
-        Kelvin = 20
+        Kelvin = 20,
+        Pascal = 21
     };
     Q_ENUM(Unit)
 

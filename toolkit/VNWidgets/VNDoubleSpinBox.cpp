@@ -298,7 +298,12 @@ void VNDoubleSpinBox::fixup(QString& input) const
     const QString previous = textFromValue(value());
     if (!numberText(input).isEmpty() && isVisible()) {
         const QString unit = displayUnit();
-        const QString message = unit.isEmpty()
+        bool ambiguous = false;
+        VNFormatter::numberFromText(numberText(input).section(QLatin1Char(' '), 0, 0), nullptr, &ambiguous);
+        const QString message = ambiguous ? tr("\"%1\" can be read in more than one way: write decimals with \"%2\" or "
+                                               "\".\" and no digit grouping; the value stays %3.")
+                                                .arg(input, QLocale().decimalPoint(), previous)
+                                : unit.isEmpty()
                                     ? tr("\"%1\" is not a number; the value stays %2.").arg(input, previous)
                                     : tr("\"%1\" is not a number in %2 or a unit of its kind; the value stays %3.")
                                           .arg(input, unit, previous);
@@ -513,10 +518,8 @@ double VNDoubleSpinBox::parse(const QString& text, bool* ok) const
 {
     const QString number = numberText(text);
     // A plain number is what the field shows: display unit times factor.
-    double shown = QLocale().toDouble(number, ok);
-    if (!*ok)
-        shown = QLocale::c().toDouble(number, ok);
-    if (*ok && qIsFinite(shown))
+    const double shown = VNFormatter::numberFromText(number, ok);
+    if (*ok)
         return fromDisplay(shown);
     // A number with a unit is a quantity of its own, which the factor does not scale.
     const double quantity = m_formatter->valueFromText(number, ok);

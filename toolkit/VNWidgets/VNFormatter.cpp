@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QVector>
 #include <QtMath>
 
@@ -46,11 +47,14 @@ std::pair<bool, QString> appearanceOf(const VNFormatter* formatter)
 
 double parseNumber(const QString& text, bool* ok)
 {
-    double number = QLocale().toDouble(text, ok);
-    if (!*ok)
-        number = QLocale::c().toDouble(text, ok);
-    *ok = *ok && qIsFinite(number);
-    return number;
+    return VNFormatter::numberFromText(text, ok);
+}
+
+// "1.500" or "12.345" where the dot also groups thousands: a German reader may mean 1500.
+bool looksGroupedByDot(const QString& number)
+{
+    static const QRegularExpression grouped(QStringLiteral("^[+\\-\\x{2212}]?[1-9][0-9]{0,2}\\.[0-9]{3}$"));
+    return grouped.match(number).hasMatch();
 }
 
 // A value that rounds to zero is shown as "0.00", never as "-0.00".
@@ -75,11 +79,14 @@ QString engineeringText(const QLocale& locale, double value, int precision)
     if (!qIsFinite(value))
         return locale.toString(value, 'e', precision - 1);
     // Round to the significant digits first, so that 999.96 becomes 1.00e+03 and not 1000e+00.
+    // The mantissa is shifted by at most two places; dividing by a power of ten instead would
+    // overflow for subnormal numbers (10^-324 is zero in a double).
     const QString scientific = QString::number(value, 'e', precision - 1);
-    const int exponent = scientific.mid(scientific.indexOf(QLatin1Char('e')) + 1).toInt();
+    const int e = scientific.indexOf(QLatin1Char('e'));
+    const int exponent = scientific.mid(e + 1).toInt();
     const int engineeringExponent = static_cast<int>(std::floor(exponent / 3.0)) * 3;
     const int integerDigits = exponent - engineeringExponent + 1;
-    const double mantissa = scientific.toDouble() / std::pow(10.0, engineeringExponent);
+    const double mantissa = scientific.left(e).toDouble() * std::pow(10.0, integerDigits - 1);
     const int decimals = qMax(0, precision - integerDigits);
     return locale.toString(mantissa, 'f', decimals) + exponentText(locale, engineeringExponent);
 }
@@ -254,6 +261,44 @@ double VNFormatter::displayValueFromText(const QString& text, bool* ok) const
     return parsed ? valueToDisplayValue(value) : 0.0;
 }
 
+double VNFormatter::numberFromText(const QString& text, bool* ok, bool* ambiguous)
+{
+    bool parsed = false;
+    bool unclear = false;
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::RejectGroupSeparator);
+    const QChar point = locale.decimalPoint();
+    const QChar group = locale.groupSeparator();
+    QString number = text.trimmed();
+    double value = 0.0;
+    if (group != point && group != QLatin1Char('.') && number.contains(group)) {
+        unclear = true; // a group separator, or a decimal separator of another language
+    } else if (point != QLatin1Char('.') && number.contains(QLatin1Char('.'))) {
+        unclear = number.contains(point) || number.count(QLatin1Char('.')) > 1 ||
+                  (group == QLatin1Char('.') && looksGroupedByDot(number));
+        if (!unclear)
+            value = locale.toDouble(number.replace(QLatin1Char('.'), point), &parsed);
+    } else {
+        value = locale.toDouble(number, &parsed);
+    }
+    if (!parsed && !unclear) {
+        QLocale c = QLocale::c();
+        c.setNumberOptions(QLocale::RejectGroupSeparator);
+        value = c.toDouble(text.trimmed(), &parsed);
+    }
+    parsed = parsed && qIsFinite(value);
+    if (ok)
+        *ok = parsed;
+    if (ambiguous) {
+        // Ambiguous is what a lenient reader would take for a number; "3,x" is simply none.
+        bool lenient = false;
+        if (unclear)
+            QLocale().toDouble(text.trimmed(), &lenient);
+        *ambiguous = lenient;
+    }
+    return parsed ? value : 0.0;
+}
+
 bool VNFormatter::isUnit(const QString& text)
 {
     return UnitConverter::isUnit(text);
@@ -298,7 +343,9 @@ QString VNFormatter::globalDisplayUnit(UnitConverter::Quantity quantity)
 
 QString VNFormatter::formatNumber(double displayValue) const
 {
-    const QLocale locale;
+    // Shown texts carry no digit grouping, so that what a field shows can be typed back.
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
     if (displayValue == 0.0)
         displayValue = 0.0; // drops the sign of -0.0
     QString text;

@@ -20,9 +20,10 @@
 // EngineeringNotation with an exponent that is a multiple of three, AutomaticNotation as a plain
 // number while it stays readable and in scientific notation otherwise, without trailing zeros.
 //
-// Texts use the default QLocale at the time of the call. Parsing accepts the locale's number
-// format first and the C locale's second, so "1.5" still reads as one and a half in a German
-// session while "1.500" reads as fifteen hundred there.
+// Texts use the default QLocale at the time of the call. A typed number never changes magnitude
+// through a separator: the locale's decimal separator and the dot both mark decimals, group
+// separators are refused, and so is what stays ambiguous ("1.500" or "1.234,5" in a German
+// session, "0,125" in an English one).
 //
 // The global display units start as the toolkit's metric unit system (mm, deg, N, MPa, kg, s, °C);
 // an application sets its own. Formatters and the global display units belong to the GUI thread.
@@ -94,6 +95,9 @@ public:
     // display unit. *ok is false for no number, a unit of another quantity or a non-finite value.
     double valueFromText(const QString& text, bool* ok = nullptr) const;
     double displayValueFromText(const QString& text, bool* ok = nullptr) const;
+
+    // Reads a plain number by the rules above; *ambiguous tells a refused separator from no number.
+    static double numberFromText(const QString& text, bool* ok, bool* ambiguous = nullptr);
 
     static bool isUnit(const QString& text);
     static bool isConvertable(const QString& from, const QString& to);

@@ -6,6 +6,7 @@
 #include "VNWidgetStatus.h"
 
 #include <QMouseEvent>
+#include <QPainter>
 
 namespace {
 constexpr int pixelsPerStep = 4;
@@ -32,6 +33,25 @@ void VNLabel::setIsHeader(bool header)
     setFont(headerFont);
     VNWidgetStatus::repolish(this);
     emit isHeaderChanged(header);
+}
+
+void VNLabel::setRuleColor(const QColor& color)
+{
+    if (color == m_ruleColor)
+        return;
+    m_ruleColor = color;
+    update();
+}
+
+// A label's style-sheet border is not drawn for every frame shape, so the header draws its rule
+// itself, along the bottom edge over the whole width.
+void VNLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!m_isHeader || !m_ruleColor.isValid())
+        return;
+    QPainter painter(this);
+    painter.fillRect(QRect(0, height() - 1, width(), 1), m_ruleColor);
 }
 
 void VNLabel::setUnitText(const QString& pattern)

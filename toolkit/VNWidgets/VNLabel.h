@@ -2,6 +2,7 @@
 
 #include "vnwidgets_export.h"
 
+#include <QColor>
 #include <QIcon>
 #include <QLabel>
 
@@ -22,6 +23,8 @@ class VNWIDGETS_EXPORT VNLabel : public QLabel
     Q_PROPERTY(bool isHeader READ isHeader WRITE setIsHeader NOTIFY isHeaderChanged)
     Q_PROPERTY(QString unitText READ unitText WRITE setUnitText)
     Q_PROPERTY(QSize iconSize READ iconSize WRITE setIconSize)
+    // The rule under a header; the style sheet sets it ("qproperty-ruleColor"), none by default.
+    Q_PROPERTY(QColor ruleColor READ ruleColor WRITE setRuleColor)
 
 public:
     explicit VNLabel(QWidget* parent = nullptr);
@@ -29,6 +32,9 @@ public:
 
     bool isHeader() const { return m_isHeader; }
     void setIsHeader(bool header);
+
+    QColor ruleColor() const { return m_ruleColor; }
+    void setRuleColor(const QColor& color);
 
     QString unitText() const { return m_unitText; }
     void setUnitText(const QString& pattern);
@@ -51,6 +57,7 @@ signals:
     void isHeaderChanged(bool header);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -65,6 +72,7 @@ private:
     void showIcon();
 
     bool m_isHeader = false;
+    QColor m_ruleColor;
     QString m_unitText;
     bool m_hasUnitValue = false;
     double m_unitValue = 0.0;

@@ -1,5 +1,7 @@
 #include "VNValueEdit.h"
 
+#include <QLocale>
+
 #include "VNFormatter.h"
 
 #include <QKeyEvent>
@@ -57,6 +59,14 @@ void VNValueEdit::takeTypedText()
     const double typed = m_formatter->valueFromText(text(), &ok);
     if (!ok) {
         const QString unit = m_formatter->displayUnit();
+        bool ambiguous = false;
+        VNFormatter::numberFromText(text().trimmed().section(QLatin1Char(' '), 0, 0), nullptr, &ambiguous);
+        if (ambiguous) {
+            setInputError(tr("\"%1\" can be read in more than one way: write decimals with \"%2\" or \".\" and no "
+                             "digit grouping.")
+                              .arg(text(), QLocale().decimalPoint()));
+            return;
+        }
         setInputError(unit.isEmpty() ? tr("\"%1\" is not a number.").arg(text())
                                      : tr("\"%1\" is not a number in %2 or a unit of its kind.").arg(text(), unit));
         return;

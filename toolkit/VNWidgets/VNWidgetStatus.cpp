@@ -103,7 +103,7 @@ QString VNWidgetStatus::sigmaLookName(StatusFlags flags)
         return QStringLiteral("active");
     if (flags.testFlag(sigmaAvailable))
         return QStringLiteral("available");
-    return QString();
+    return QStringLiteral("none");
 }
 
 QString VNWidgetStatus::debugStatusFlag(StatusFlags flags)

@@ -10,6 +10,17 @@ class QWidget;
 
 // The status bits that select how an input widget looks. Toolkit widgets keep them through
 // VNWidgetInterface; plain Qt widgets carry them as dynamic properties that the style sheet reads.
+//
+// How a word looks (the rules are spelled out at the top of vnwidgets.qss):
+// - lookName() picks the fill and frame colour, most urgent first: needInput (red), different
+//   (yellow), the standard states (locked grey, changed-locked brown, default-changed violet,
+//   default cyan, changed orange, defined green), userEdit (blue), else "undef" (plain frame);
+// - sigmaLookName() picks the bar on the left edge: sigmaError, sigmaStandardChanged, sigmaOn,
+//   sigmaAvailable, else "none";
+// - compareDifferent adds a dashed magenta frame on top of both.
+// A status never changes a widget's size or position: looks change colours, and where a border
+// grows, the padding shrinks by as much. Widget authors painting a status themselves keep to
+// the same colours and to the same rule.
 class VNWIDGETS_EXPORT VNWidgetStatus
 {
     Q_GADGET
@@ -39,7 +50,7 @@ public:
     // Names of the dynamic properties that the style sheet selects on.
     static const char* const statusPropertyName;    // int: the whole status word
     static const char* const lookPropertyName;      // string: the main look ("needInput", "standardLocked", ...)
-    static const char* const sigmaLookPropertyName; // string: the sigma look ("", "available", "active", ...)
+    static const char* const sigmaLookPropertyName; // string: the sigma look ("none", "available", "active", ...)
     static const char* const comparePropertyName;   // bool: the compare-differs frame
 
     static void setFlag(StatusFlags& flags, Status flag, bool on);
