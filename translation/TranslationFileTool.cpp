@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cstdio>
 #include <initializer_list>
@@ -11,9 +10,7 @@
 
 namespace {
 
-// Files beyond this size are treated as unreadable: the mock translation can
-// triple a file, and the result must still fit into one QString.
-const qint64 maxFileSize = qint64(128) * 1024 * 1024;
+using TextFileIo::Status;
 
 const QLatin1String sourceOpen("<source>");
 const QLatin1String sourceClose("</source>");
@@ -32,38 +29,18 @@ void printCannotWrite()
     printLine(QByteArrayLiteral("Can not open/generate the output file."));
 }
 
-bool isExcludedFromReading(const QFileInfo& info)
+// A text-mode read drops every carriage return.
+void removeCarriageReturns(QString& text)
 {
-    const QString baseName = info.baseName();
-    return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
+    if (text.contains(QLatin1Char('\r')))
+        text.remove(QLatin1Char('\r'));
 }
 
-QByteArray readFileBytes(const QString& filePath)
+TextFileIo::Result withStatus(TextFileIo::Result result, Status status, const QString& path)
 {
-    const QFileInfo info(filePath);
-    // Opening a FIFO or a device would block or never reach the end.
-    if (isExcludedFromReading(info) || !info.isFile() || info.size() > maxFileSize)
-        return QByteArray();
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return QByteArray();
-    return file.readAll();
-}
-
-// The QByteArray overload of QString::fromUtf8() would stop at the first NUL byte.
-QString decodeUtf8(const QByteArray& bytes)
-{
-    const int size = bytes.size();
-    return size > 0 ? QString::fromUtf8(bytes.constData(), size) : QString();
-}
-
-bool writeAtomically(const QString& filePath, const QByteArray& data)
-{
-    QSaveFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(data);
-    return file.commit();
+    result.status = status;
+    result.path = path;
+    return result;
 }
 
 bool isBlankText(const QChar* begin, const QChar* end)
@@ -80,10 +57,46 @@ void appendRange(QString& target, const QString& text, int begin, int end)
     target.append(text.constData() + begin, end - begin);
 }
 
+// The index of the first occurrence of needle at or after from, or -1.
+int find(const QString& text, const QString& needle, int from)
+{
+    const QChar* data = text.constData();
+    const QChar* needleData = needle.constData();
+    const int last = text.size() - needle.size();
+    for (int at = from; at <= last; ++at) {
+        if (data[at] == needleData[0] && std::equal(needleData + 1, needleData + needle.size(), data + at + 1))
+            return at;
+    }
+    return -1;
+}
+
+/*
+  Replaces every occurrence of before, left to right, as QString::replace()
+  does, but in one pass: QString::replace() moves the rest of the text once per
+  1024 occurrences that change its length, which is quadratic on a long text.
+*/
+void replaceAll(QString& text, const QString& before, const QString& after)
+{
+    int at = find(text, before, 0);
+    if (at < 0)
+        return;
+    QString result;
+    result.reserve(text.size() + (after.size() > before.size() ? text.size() / 2 : 0));
+    int copied = 0;
+    while (at >= 0) {
+        result.append(text.constData() + copied, at - copied);
+        result.append(after);
+        copied = at + before.size();
+        at = find(text, before, copied);
+    }
+    result.append(text.constData() + copied, text.size() - copied);
+    text = result;
+}
+
 void replaceInOrder(QString& text, std::initializer_list<std::pair<QString, QString>> replacements)
 {
     for (const auto& replacement : replacements)
-        text.replace(replacement.first, replacement.second);
+        replaceAll(text, replacement.first, replacement.second);
 }
 
 /*
@@ -175,6 +188,26 @@ int findTrCall(const QString& text, int from, int* callEnd)
     return -1;
 }
 
+QString rewriteCalls(const QString& content, const QString& context, int* calls)
+{
+    const QString call = QLatin1String("QApplication::translate(\"") + context + QLatin1String("\", ");
+    int callEnd = 0;
+    int at = findTrCall(content, 0, &callEnd);
+    if (at < 0)
+        return content;
+    QString result;
+    result.reserve(content.size() + content.size() / 8);
+    int copied = 0;
+    for (; at >= 0; at = findTrCall(content, copied, &callEnd)) {
+        appendRange(result, content, copied, at + 1);
+        result += call;
+        copied = callEnd;
+        ++*calls;
+    }
+    appendRange(result, content, copied, content.size());
+    return result;
+}
+
 } // namespace
 
 TranslationFileTool::TranslationFileTool() = default;
@@ -183,34 +216,61 @@ TranslationFileTool::~TranslationFileTool() = default;
 
 QString TranslationFileTool::readTranslationFile(const QString& filePath) const
 {
-    return decodeUtf8(readFileBytes(filePath));
+    QString text;
+    return readText(filePath, &text).ok() ? text : QString();
+}
+
+TranslationFileTool::FileResult TranslationFileTool::readText(const QString& filePath, QString* text) const
+{
+    text->clear();
+    TextFileIo::Encoding encoding;
+    QByteArray bytes;
+    FileResult result = TextFileIo::readBytes(filePath, &bytes);
+    if (!result.ok())
+        return result;
+    result = TextFileIo::decode(bytes, text, &encoding);
+    result.path = filePath;
+    if (!result.ok())
+        text->clear();
+    removeCarriageReturns(*text);
+    return result;
 }
 
 bool TranslationFileTool::processTsFile(const QString& filePath, int mode) const
 {
+    return processTs(filePath, mode).ok();
+}
+
+TranslationFileTool::FileResult TranslationFileTool::processTs(const QString& filePath, int mode) const
+{
     printLine(QByteArrayLiteral("Start parsing ts files at: ") + filePath.toLocal8Bit());
-    const QString content = readTranslationFile(filePath);
+    QString content;
+    TextFileIo::Encoding encoding;
+    {
+        QByteArray bytes;
+        FileResult read = TextFileIo::readBytes(filePath, &bytes);
+        if (!read.ok())
+            return read;
+        read = TextFileIo::decode(bytes, &content, &encoding);
+        if (!read.ok())
+            return withStatus(read, read.status, filePath);
+    }
+    removeCarriageReturns(content);
     if (content.isEmpty())
-        return false;
+        return withStatus(FileResult(), Status::Empty, filePath);
     QString suffix;
     if (mode == FixTags)
         suffix = QStringLiteral(".fix");
     else if (mode == MockSwedish)
         suffix = QStringLiteral(".swe");
     else
-        return false;
+        return withStatus(FileResult(), Status::UnknownMode, filePath);
 
-    QSaveFile output(filePath + suffix);
-    if (!output.open(QIODevice::WriteOnly)) {
+    content = processTsContent(content, mode);
+    const FileResult written = TextFileIo::writeInPlace(filePath + suffix, TextFileIo::encode(content, encoding));
+    if (!written.ok())
         printCannotWrite();
-        return false;
-    }
-    output.write(processTsContent(content, mode).toUtf8());
-    if (!output.commit()) {
-        printCannotWrite();
-        return false;
-    }
-    return true;
+    return written;
 }
 
 QString TranslationFileTool::processTsContent(const QString& content, int mode) const
@@ -288,7 +348,7 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
 
     first = text.left(1);
     text.remove(0, 1);
-    text.replace(QLatin1Char('u'), QStringLiteral("oo"));
+    replaceAll(text, QStringLiteral("u"), QStringLiteral("oo"));
     text.prepend(first);
 
     // In this order a 'W' of the source ends as 'V', not as 'F'.
@@ -348,35 +408,36 @@ bool TranslationFileTool::checkBracesInContent(const QString& content) const
 
 bool TranslationFileTool::replaceTrCalls(const QString& filePath) const
 {
-    const QByteArray bytes = readFileBytes(filePath);
-    if (bytes.isEmpty())
-        return false;
-    const QString content = decodeUtf8(bytes);
-    // Decoding replaced invalid bytes; writing them back would destroy the original text.
-    if (content.toUtf8() != bytes)
-        return false;
-    const QString rewritten = replaceTrCallsInContent(content, QFileInfo(filePath).baseName());
-    return writeAtomically(filePath, rewritten.toUtf8());
+    return rewriteTrCalls(filePath).ok();
+}
+
+TranslationFileTool::FileResult TranslationFileTool::rewriteTrCalls(const QString& filePath) const
+{
+    QByteArray bytes;
+    const FileResult read = TextFileIo::readBytes(filePath, &bytes);
+    if (!read.ok())
+        return read;
+    QString content;
+    TextFileIo::Encoding encoding;
+    const FileResult decoded = TextFileIo::decode(bytes, &content, &encoding);
+    int calls = 0;
+    const QString rewritten = rewriteCalls(content, QFileInfo(filePath).baseName(), &calls);
+    if (calls == 0)
+        return read; // nothing to rewrite: every byte stays
+    // Writing undecodable text back would change more than the calls.
+    if (!decoded.ok() || TextFileIo::encode(content, encoding) != bytes)
+        return withStatus(decoded, Status::Undecodable, filePath);
+    return TextFileIo::writeInPlace(filePath, TextFileIo::encode(rewritten, encoding));
 }
 
 QString TranslationFileTool::replaceTrCallsInContent(const QString& content, const QString& context) const
 {
-    const QString call = QLatin1String("QApplication::translate(\"") + context + QLatin1String("\", ");
-    QString result;
-    result.reserve(content.size() + content.size() / 8);
-    int copied = 0;
-    int callEnd = 0;
-    for (int at = findTrCall(content, 0, &callEnd); at >= 0; at = findTrCall(content, copied, &callEnd)) {
-        appendRange(result, content, copied, at + 1);
-        result += call;
-        copied = callEnd;
-    }
-    appendRange(result, content, copied, content.size());
-    return result;
+    int calls = 0;
+    return rewriteCalls(content, context, &calls);
 }
 
 int TranslationFileTool::processDirectory(const QString& dirPath, const FileProgress& onFile,
-                                          const FileSkipped& onSkipped) const
+                                          const FileDone& onDone) const
 {
     if (dirPath.contains(QLatin1String("legacy")) || dirPath.contains(QLatin1String("Legacy")))
         return 0;
@@ -388,14 +449,15 @@ int TranslationFileTool::processDirectory(const QString& dirPath, const FileProg
             continue;
         if (entry.isDir()) {
             if (entry.fileName() != QLatin1String(".") && entry.fileName() != QLatin1String(".."))
-                rewritten += processDirectory(entry.filePath(), onFile, onSkipped);
+                rewritten += processDirectory(entry.filePath(), onFile, onDone);
         } else if (entry.isFile() && (entry.suffix() == QLatin1String("h") || entry.suffix() == QLatin1String("cpp"))) {
             if (onFile)
                 onFile(entry.filePath());
-            if (replaceTrCalls(entry.filePath()))
+            const FileResult result = rewriteTrCalls(entry.filePath());
+            if (result.changed)
                 ++rewritten;
-            else if (onSkipped)
-                onSkipped(entry.filePath());
+            if (onDone)
+                onDone(result);
         }
     }
     return rewritten;

@@ -217,8 +217,19 @@ void TestRegExpTest::modeMessages_data()
     QTest::newRow("braces incorrect") << 4 << QByteArray("><") << "The file's braces are incorrect." << QString();
     QTest::newRow("disabled with a path") << 5 << ts << "This feature is disabled." << QString();
     QTest::newRow("unfinished") << 6 << ts << "2 strings are not translated yet." << QString();
-    QTest::newRow("fix on empty file") << 0 << QByteArray() << "An error occurred. The file could not be translated."
+    QTest::newRow("fix on empty file") << 0 << QByteArray()
+                                       << "An error occurred. The file could not be translated.\n\"%1\" is empty."
                                        << QString();
+    QTest::newRow("mock on invalid UTF-8")
+        << 1 << QByteArray("<source>K\xe4se</source><translation></translation>")
+        << "An error occurred. The file could not be translated.\n"
+           "\"%1\" is not valid UTF-8 text; it was not processed and was left unchanged."
+        << QString();
+    QTest::newRow("count on invalid UTF-8")
+        << 2 << QByteArray("<\xff>")
+        << "The file contains:\n0 opening braces and \n0 closing braces.\n"
+           "\"%1\" is not valid UTF-8 text; it was not processed and was left unchanged."
+        << QString();
 }
 
 void TestRegExpTest::modeMessages()
@@ -230,7 +241,7 @@ void TestRegExpTest::modeMessages()
     const QString path = writeFile(QStringLiteral("sample.ts"), content);
     TestRegExp dialog(nullptr);
     start(dialog, mode, path);
-    QCOMPARE(feedback(dialog), message);
+    QCOMPARE(feedback(dialog), message.contains("%1") ? message.arg(path) : message);
     QCOMPARE(readBytes(path), content);
     const QStringList written = QDir(m_dir->path()).entryList(QDir::Files);
     if (outputSuffix.isEmpty()) {
