@@ -14,6 +14,11 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace {
 // The dialog with its file dialog replaced by a script: it answers with queued paths and
 // remembers where each dialog would have opened.
@@ -82,6 +87,7 @@ private slots:
     void fileDialogStartsAtPreviousFile();
     void wholeProjectNeedsEnvironment();
     void wholeProjectSkipsLegacy();
+    void failedWriteIsReported();
 
 private:
     QString writeFile(const QString& name, const QByteArray& content);
@@ -314,6 +320,33 @@ void TestRegExpTest::wholeProjectSkipsLegacy()
         QCOMPARE(readBytes(untouched), source);
     for (const QString& file : {kept, header, upper})
         QVERIFY2(recorder.painted.contains(QStringLiteral("Processing:\n") + file), qPrintable(file));
+}
+
+void TestRegExpTest::failedWriteIsReported()
+{
+#ifdef Q_OS_UNIX
+    const QByteArray ts = QByteArray("<source>Open file</source><translation></translation>\n").repeated(100);
+    const QString path = writeFile(QStringLiteral("sample.ts"), ts);
+    const QString earlier = writeFile(QStringLiteral("sample.ts.swe"), "earlier");
+    TestRegExp dialog(nullptr);
+    // Writes beyond the size of the input fail, as on a full disk.
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit previous;
+    getrlimit(RLIMIT_FSIZE, &previous);
+    rlimit limited = previous;
+    limited.rlim_cur = rlim_t(ts.size());
+    setrlimit(RLIMIT_FSIZE, &limited);
+    start(dialog, 1, path);
+    setrlimit(RLIMIT_FSIZE, &previous);
+    std::signal(SIGXFSZ, previousHandler);
+    QCOMPARE(feedback(dialog), QStringLiteral("An error occurred. The file could not be translated.\n"
+                                              "Writing \"%1\" failed (File too large); the file was left as it was.")
+                                   .arg(earlier));
+    QCOMPARE(readBytes(earlier), QByteArray("earlier"));
+    QCOMPARE(readBytes(path), ts);
+#else
+    QSKIP("needs a file size limit");
+#endif
 }
 
 QTEST_MAIN(TestRegExpTest)
