@@ -17,3 +17,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         FUZZ_CHECK(result == TranslationOracle::processTsContent(content, mode));
     return 0;
 }
+
+void checkGrowth(const QByteArray& seed)
+{
+    if (seed.isEmpty())
+        return;
+    const TranslationFileTool tool;
+    const int mode = uchar(seed.at(0)) % 3;
+    const QString content = textOf(seed.mid(1));
+    // Many entries (or broken ones), and one huge source text.
+    if (mode != 2)
+        checkLinearGrowth(content, [&](const QString& text) { tool.processTsContent(text, mode); });
+    checkLinearGrowth(
+        content, [&](const QString& text) { tool.processTsContent(text, TranslationFileTool::MockSwedish); },
+        QStringLiteral("<source>"), QStringLiteral("</source><translation></translation>"));
+}
