@@ -4,8 +4,10 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -129,33 +131,135 @@ struct TsEntry
   from the first "<source>", none exists from a later one either: a malformed
   file is searched once, not once per "<source>".
 */
-bool findTsEntry(const QString& text, int from, TsEntry* entry)
+// Searches in QString and UTF-8 text alike: every pattern is ASCII.
+int find(const QString& text, QLatin1String pattern, int from)
 {
-    const int start = text.indexOf(sourceOpen, from);
+    return text.indexOf(pattern, from);
+}
+
+int find(const QByteArray& text, QLatin1String pattern, int from)
+{
+    if (from < 0 || from > text.size())
+        return -1;
+    const std::string_view haystack(text.constData(), size_t(text.size()));
+    const size_t found = haystack.find(std::string_view(pattern.data(), size_t(pattern.size())), size_t(from));
+    return found == std::string_view::npos ? -1 : int(found);
+}
+
+int find(const QString& text, char character, int from)
+{
+    return text.indexOf(QLatin1Char(character), from);
+}
+
+int find(const QByteArray& text, char character, int from)
+{
+    return text.indexOf(character, from);
+}
+
+int findLast(const QString& text, QLatin1String pattern, int from)
+{
+    return text.lastIndexOf(pattern, from);
+}
+
+int findLast(const QByteArray& text, QLatin1String pattern, int from)
+{
+    return text.lastIndexOf(pattern.data(), from);
+}
+
+int findLast(const QString& text, char character, int from)
+{
+    return text.lastIndexOf(QLatin1Char(character), from);
+}
+
+int findLast(const QByteArray& text, char character, int from)
+{
+    return text.lastIndexOf(character, from);
+}
+
+template<typename Text>
+bool findTsEntry(const Text& text, int from, TsEntry* entry)
+{
+    const int start = find(text, sourceOpen, from);
     if (start < 0)
         return false;
-    const int firstSourceEnd = text.indexOf(sourceClose, start + sourceOpen.size());
+    const int firstSourceEnd = find(text, sourceClose, start + sourceOpen.size());
     if (firstSourceEnd < 0)
         return false;
-    const int firstTag = text.indexOf(translationOpen, firstSourceEnd + sourceClose.size());
+    const int firstTag = find(text, translationOpen, firstSourceEnd + sourceClose.size());
     if (firstTag < 0)
         return false;
-    const int firstTagClose = text.indexOf(QLatin1Char('>'), firstTag + translationOpen.size());
+    const int firstTagClose = find(text, '>', firstTag + translationOpen.size());
     if (firstTagClose < 0)
         return false;
-    const int translationEnd = text.indexOf(translationClose, firstTagClose + 1);
+    const int translationEnd = find(text, translationClose, firstTagClose + 1);
     if (translationEnd < 0)
         return false;
 
     // The backward searches stay inside the match and stop at firstTagClose,
     // firstTag and firstSourceEnd at the latest.
-    const int lastTagClose = text.lastIndexOf(QLatin1Char('>'), translationEnd - 1);
-    const int tag = text.lastIndexOf(translationOpen, lastTagClose - translationOpen.size());
+    const int lastTagClose = findLast(text, '>', translationEnd - 1);
+    const int tag = findLast(text, translationOpen, lastTagClose - translationOpen.size());
     entry->start = start;
-    entry->sourceEnd = text.lastIndexOf(sourceClose, tag - sourceClose.size());
+    entry->sourceEnd = findLast(text, sourceClose, tag - sourceClose.size());
     entry->tagEnd = tag + translationOpen.size();
-    entry->attributesEnd = text.indexOf(QLatin1Char('>'), entry->tagEnd);
+    entry->attributesEnd = find(text, '>', entry->tagEnd);
     entry->translationEnd = translationEnd;
+    return true;
+}
+
+// Whether UTF-8 text is blank as QChar::isSpace() sees it.
+bool isBlankUtf8(const char* begin, const char* end)
+{
+    for (const char* it = begin; it != end; ++it) {
+        const uchar byte = uchar(*it);
+        if (byte < 0x80) {
+            if (!QChar::isSpace(byte))
+                return false;
+        } else {
+            // Only a few non-ASCII characters are blanks; decode the rest of the text to look.
+            const QString rest = QString::fromUtf8(it, int(end - it));
+            return std::all_of(rest.begin(), rest.end(), [](QChar character) { return character.isSpace(); });
+        }
+    }
+    return true;
+}
+
+/*
+  Whether bytes are valid UTF-8 as the decoder reads them: no stray continuation bytes, cut-off or
+  overlong sequences, encoded surrogates or code points beyond U+10FFFF.
+*/
+bool isValidUtf8(const char* data, int size)
+{
+    const uchar* it = reinterpret_cast<const uchar*>(data);
+    const uchar* end = it + size;
+    while (it != end) {
+        if (*it < 0x80) {
+            ++it;
+            continue;
+        }
+        int length = 0;
+        uint minimum = 0;
+        uint codePoint = 0;
+        if ((*it & 0xE0) == 0xC0) {
+            length = 2, minimum = 0x80, codePoint = *it & 0x1F;
+        } else if ((*it & 0xF0) == 0xE0) {
+            length = 3, minimum = 0x800, codePoint = *it & 0x0F;
+        } else if ((*it & 0xF8) == 0xF0) {
+            length = 4, minimum = 0x10000, codePoint = *it & 0x07;
+        } else {
+            return false;
+        }
+        if (end - it < length)
+            return false;
+        for (int index = 1; index < length; ++index) {
+            if ((it[index] & 0xC0) != 0x80)
+                return false;
+            codePoint = (codePoint << 6) | (it[index] & 0x3F);
+        }
+        if (codePoint < minimum || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF))
+            return false;
+        it += length;
+    }
     return true;
 }
 
@@ -244,30 +348,16 @@ bool TranslationFileTool::processTsFile(const QString& filePath, int mode) const
 TranslationFileTool::FileResult TranslationFileTool::processTs(const QString& filePath, int mode) const
 {
     printLine(QByteArrayLiteral("Start parsing ts files at: ") + filePath.toLocal8Bit());
-    QString content;
-    TextFileIo::Encoding encoding;
-    {
-        QByteArray bytes;
-        FileResult read = TextFileIo::readBytes(filePath, &bytes);
-        if (!read.ok())
-            return read;
-        read = TextFileIo::decode(bytes, &content, &encoding);
-        if (!read.ok())
-            return withStatus(read, read.status, filePath);
-    }
-    removeCarriageReturns(content);
-    if (content.isEmpty())
-        return withStatus(FileResult(), Status::Empty, filePath);
-    QString suffix;
-    if (mode == FixTags)
-        suffix = QStringLiteral(".fix");
-    else if (mode == MockSwedish)
-        suffix = QStringLiteral(".swe");
-    else
-        return withStatus(FileResult(), Status::UnknownMode, filePath);
-
-    content = processTsContent(content, mode);
-    const FileResult written = TextFileIo::writeInPlace(filePath + suffix, TextFileIo::encode(content, encoding));
+    QByteArray bytes;
+    const FileResult read = TextFileIo::readBytes(filePath, &bytes);
+    if (!read.ok())
+        return read;
+    QByteArray output;
+    const FileResult converted = convertTs(bytes, mode, &output);
+    if (!converted.ok())
+        return withStatus(converted, converted.status, filePath);
+    bytes.clear(); // the input is no longer needed while the output is written
+    const FileResult written = TextFileIo::writeInPlace(filePath + outputSuffix(mode), output);
     if (!written.ok())
         printCannotWrite();
     return written;
@@ -302,6 +392,38 @@ QString TranslationFileTool::processTsContent(const QString& content, int mode) 
         copied = entry.end();
     }
     appendRange(result, content, copied, content.size());
+    return result;
+}
+
+QByteArray TranslationFileTool::processTsUtf8(const QByteArray& content, int mode) const
+{
+    if (mode != FixTags && mode != MockSwedish)
+        return content;
+    QByteArray result;
+    result.reserve(content.size() + content.size() / 8);
+    int copied = 0;
+    TsEntry entry;
+    const char* data = content.constData();
+    while (findTsEntry(content, copied, &entry)) {
+        result.append(data + copied, entry.tagEnd - copied);
+        const char* source = data + entry.sourceBegin();
+        const int sourceSize = entry.sourceEnd - entry.sourceBegin();
+        if (isBlankUtf8(source, source + sourceSize)) {
+            result += '>';
+            result.append(source, sourceSize);
+            result += translationClose.data();
+        } else if (mode == MockSwedish) {
+            result += '>';
+            result += mockSwedish(QString::fromUtf8(source, sourceSize)).toUtf8();
+            result += translationClose.data();
+        } else if (isBlankUtf8(data + entry.translationBegin(), data + entry.translationEnd)) {
+            result += " type=\"unfinished\"></translation>";
+        } else {
+            result.append(data + entry.attributesEnd, entry.end() - entry.attributesEnd);
+        }
+        copied = entry.end();
+    }
+    result.append(data + copied, content.size() - copied);
     return result;
 }
 
@@ -404,6 +526,40 @@ bool TranslationFileTool::checkBracesInContent(const QString& content) const
             return false;
     }
     return depth == 0;
+}
+
+QString TranslationFileTool::outputSuffix(int mode)
+{
+    return mode == FixTags ? QStringLiteral(".fix") : QStringLiteral(".swe");
+}
+
+/*
+  UTF-8 without a byte-order mark, the usual case, is processed as bytes, which needs neither a
+  decoded copy of the file nor the time to make one; other encodings are decoded first.
+*/
+TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes, int mode, QByteArray* output) const
+{
+    FileResult result;
+    if (mode != FixTags && mode != MockSwedish)
+        return withStatus(result, Status::UnknownMode, QString());
+    if (isValidUtf8(bytes.constData(), bytes.size()) && !bytes.startsWith("\xEF\xBB\xBF")) {
+        if (bytes.contains('\r'))
+            bytes.replace("\r", "");
+        if (bytes.isEmpty())
+            return withStatus(result, Status::Empty, QString());
+        *output = processTsUtf8(bytes, mode);
+        return result;
+    }
+    QString content;
+    TextFileIo::Encoding encoding;
+    result = TextFileIo::decode(bytes, &content, &encoding);
+    if (!result.ok())
+        return result;
+    removeCarriageReturns(content);
+    if (content.isEmpty())
+        return withStatus(result, Status::Empty, QString());
+    *output = TextFileIo::encode(processTsContent(content, mode), encoding);
+    return result;
 }
 
 bool TranslationFileTool::replaceTrCalls(const QString& filePath) const

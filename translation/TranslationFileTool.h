@@ -56,6 +56,8 @@ public:
     // The text processTsFile() writes for the given content; an unknown mode
     // returns the content unchanged.
     QString processTsContent(const QString& content, int mode) const;
+    // The same for valid UTF-8 content, without decoding it.
+    QByteArray processTsUtf8(const QByteArray& content, int mode) const;
 
     QString mockSwedish(const QString& source) const;
     bool isBlank(const QString& text) const;
@@ -87,4 +89,9 @@ public:
     // The root for processDirectory() from $VN_TRANSLATION_SOURCE_PATH; empty when
     // the variable is unset or empty.
     static QString sourceRootFromEnvironment();
+
+private:
+    static QString outputSuffix(int mode);
+    // The output for the bytes of a .ts file (which may be changed); the input's encoding is kept.
+    FileResult convertTs(QByteArray& bytes, int mode, QByteArray* output) const;
 };

@@ -565,8 +565,11 @@ void TestTranslationFileTool::matchesOracleOnRandomInput()
         for (int piece = random.bounded(30); piece > 0; --piece)
             input += random.bounded(4) == 0 ? message : fragments.at(random.bounded(alphabet));
         input.truncate(random.bounded(input.size() + 1));
-        for (int mode : {0, 1})
-            QCOMPARE(m_tool.processTsContent(input, mode), TranslationOracle::processTsContent(input, mode));
+        for (int mode : {0, 1}) {
+            const QString expected = TranslationOracle::processTsContent(input, mode);
+            QCOMPARE(m_tool.processTsContent(input, mode), expected);
+            QCOMPARE(m_tool.processTsUtf8(input.toUtf8(), mode), expected.toUtf8());
+        }
         QCOMPARE(m_tool.replaceTrCallsInContent(input, "C"), TranslationOracle::replaceTrCalls(input, "C"));
         QCOMPARE(m_tool.isBlank(input), TranslationOracle::isBlank(input));
     }
