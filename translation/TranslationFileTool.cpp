@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <initializer_list>
 #include <string_view>
 #include <utility>
@@ -233,6 +234,11 @@ bool isValidUtf8(const char* data, int size)
     const uchar* it = reinterpret_cast<const uchar*>(data);
     const uchar* end = it + size;
     while (it != end) {
+        quint64 eightBytes = 0;
+        if (end - it >= 8 && (std::memcpy(&eightBytes, it, 8), (eightBytes & 0x8080808080808080ull) == 0)) {
+            it += 8; // all ASCII
+            continue;
+        }
         if (*it < 0x80) {
             ++it;
             continue;
