@@ -77,13 +77,15 @@ int find(const QString& text, const QString& needle, int from)
   Replaces every occurrence of before, left to right, as QString::replace()
   does, but in one pass: QString::replace() moves the rest of the text once per
   1024 occurrences that change its length, which is quadratic on a long text.
+  The result is built in scratch, whose memory is used again from step to step.
 */
-void replaceAll(QString& text, const QString& before, const QString& after)
+void replaceAll(QString& text, const QString& before, const QString& after, QString& scratch)
 {
     int at = find(text, before, 0);
     if (at < 0)
         return;
-    QString result;
+    QString& result = scratch;
+    result.truncate(0); // keeps the reserved memory
     result.reserve(text.size() + (after.size() > before.size() ? text.size() / 2 : 0));
     int copied = 0;
     while (at >= 0) {
@@ -93,13 +95,13 @@ void replaceAll(QString& text, const QString& before, const QString& after)
         at = find(text, before, copied);
     }
     result.append(text.constData() + copied, text.size() - copied);
-    text = result;
+    text.swap(result);
 }
 
-void replaceInOrder(QString& text, std::initializer_list<std::pair<QString, QString>> replacements)
+void replaceInOrder(QString& text, std::initializer_list<std::pair<QString, QString>> replacements, QString& scratch)
 {
     for (const auto& replacement : replacements)
-        replaceAll(text, replacement.first, replacement.second);
+        replaceAll(text, replacement.first, replacement.second, scratch);
 }
 
 /*
@@ -439,15 +441,20 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
         return source;
 
     QString text = source;
+    QString scratch;
     // "&lt;" stays unshielded on purpose: its letters get transformed.
-    replaceInOrder(text, {{QStringLiteral("&quot;"), QStringLiteral("##1##")},
-                          {QStringLiteral("&apos;"), QStringLiteral("##2##")},
-                          {QStringLiteral("&amp;"), QStringLiteral("##3##")},
-                          {QStringLiteral("&gt;"), QStringLiteral("##4##")}});
-    replaceInOrder(text, {{QStringLiteral("An"), QStringLiteral("Ån")},
-                          {QStringLiteral("an"), QStringLiteral("ån")},
-                          {QStringLiteral("Au"), QStringLiteral("Oo")},
-                          {QStringLiteral("au"), QStringLiteral("oo")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("&quot;"), QStringLiteral("##1##")},
+                    {QStringLiteral("&apos;"), QStringLiteral("##2##")},
+                    {QStringLiteral("&amp;"), QStringLiteral("##3##")},
+                    {QStringLiteral("&gt;"), QStringLiteral("##4##")}},
+                   scratch);
+    replaceInOrder(text,
+                   {{QStringLiteral("An"), QStringLiteral("Ån")},
+                    {QStringLiteral("an"), QStringLiteral("ån")},
+                    {QStringLiteral("Au"), QStringLiteral("Oo")},
+                    {QStringLiteral("au"), QStringLiteral("oo")}},
+                   scratch);
 
     const QString last = text.right(1);
     text.chop(1);
@@ -455,16 +462,19 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
     text.replace(QLatin1Char('a'), QLatin1Char('e'));
     text += last;
 
-    replaceInOrder(text, {{QStringLiteral("En"), QStringLiteral("Ee")}, {QStringLiteral("en"), QStringLiteral("ee")}});
+    replaceInOrder(text, {{QStringLiteral("En"), QStringLiteral("Ee")}, {QStringLiteral("en"), QStringLiteral("ee")}},
+                   scratch);
 
     QString first = text.left(1);
     text.remove(0, 1);
-    replaceInOrder(text, {{QStringLiteral("ew"), QStringLiteral("oo")},
-                          {QStringLiteral("f"), QStringLiteral("ff")},
-                          {QStringLiteral("ir"), QStringLiteral("ur")},
-                          {QStringLiteral("tion"), QStringLiteral("shun")},
-                          {QStringLiteral("i"), QStringLiteral("ee")},
-                          {QStringLiteral("ow"), QStringLiteral("oo")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("ew"), QStringLiteral("oo")},
+                    {QStringLiteral("f"), QStringLiteral("ff")},
+                    {QStringLiteral("ir"), QStringLiteral("ur")},
+                    {QStringLiteral("tion"), QStringLiteral("shun")},
+                    {QStringLiteral("i"), QStringLiteral("ee")},
+                    {QStringLiteral("ow"), QStringLiteral("oo")}},
+                   scratch);
     text.prepend(first);
 
     if (source.startsWith(QLatin1Char('O')))
@@ -476,7 +486,7 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
 
     first = text.left(1);
     text.remove(0, 1);
-    replaceAll(text, QStringLiteral("u"), QStringLiteral("oo"));
+    replaceAll(text, QStringLiteral("u"), QStringLiteral("oo"), scratch);
     text.prepend(first);
 
     // In this order a 'W' of the source ends as 'V', not as 'F'.
@@ -488,10 +498,12 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
     if (text.endsWith(QLatin1Char('e')))
         text += QStringLiteral("-æ");
 
-    replaceInOrder(text, {{QStringLiteral("##1##"), QStringLiteral("&quot;")},
-                          {QStringLiteral("##2##"), QStringLiteral("&apos;")},
-                          {QStringLiteral("##3##"), QStringLiteral("&amp;")},
-                          {QStringLiteral("##4##"), QStringLiteral("&gt;")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("##1##"), QStringLiteral("&quot;")},
+                    {QStringLiteral("##2##"), QStringLiteral("&apos;")},
+                    {QStringLiteral("##3##"), QStringLiteral("&amp;")},
+                    {QStringLiteral("##4##"), QStringLiteral("&gt;")}},
+                   scratch);
     return QStringLiteral("ü") + text;
 }
 
