@@ -176,8 +176,15 @@ void measureTs(const TranslationFileTool& tool, const QString& path, const QStri
         {"check braces", [&] { tool.checkBraces(path); }},
         {"count unfinished", [&] { tool.countUnfinished(path); }},
     };
+    // An output that is already there with the same bytes is not written again; time the writing.
+    const auto removeOutputs = [&] {
+        QFile::remove(path + QStringLiteral(".fix"));
+        QFile::remove(path + QStringLiteral(".swe"));
+    };
     for (const auto& operation : operations)
-        results.push_back({label, megabytes, operation.first, bestMilliseconds(nothing, operation.second)});
+        results.push_back({label, megabytes, operation.first, bestMilliseconds(removeOutputs, operation.second)});
+    const double rewrite = bestMilliseconds(nothing, operations.at(1).second);
+    results.push_back({label, megabytes, QStringLiteral("mock, same output"), rewrite});
     if (lconvert.isEmpty())
         return;
     const auto convert = [&] {
@@ -255,7 +262,8 @@ int main(int argc, char** argv)
         const QByteArray ts = generateOneSourceTs(sizeMb * megabyte);
         if (!writeFile(path, ts))
             return 1;
-        const double ms = bestMilliseconds([] {}, [&] { tool.processTsFile(path, TranslationFileTool::MockSwedish); });
+        const double ms = bestMilliseconds([&] { QFile::remove(path + QStringLiteral(".swe")); },
+                                           [&] { tool.processTsFile(path, TranslationFileTool::MockSwedish); });
         results.push_back(
             {QStringLiteral("one source %1 MB").arg(sizeMb), ts.size() / double(megabyte), QStringLiteral("mock"), ms});
     }
