@@ -1,5 +1,6 @@
 // Runs a fuzz target over the files of its seed corpus, so that the target stays built and its
-// checks run in every test run, also without a fuzzing compiler.
+// checks run in every test run, also without a fuzzing compiler; each seed is also grown to
+// several megabytes to catch operations whose time grows faster than their input.
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,6 +9,7 @@
 #include <cstdio>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
+void checkGrowth(const QByteArray& seed);
 
 namespace {
 bool replay(const QString& path)
@@ -19,6 +21,7 @@ bool replay(const QString& path)
     }
     const QByteArray input = file.readAll();
     LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t*>(input.constData()), size_t(input.size()));
+    checkGrowth(input);
     return true;
 }
 } // namespace

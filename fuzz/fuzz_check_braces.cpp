@@ -16,3 +16,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     FUZZ_CHECK(!tool.checkBracesInContent(QLatin1Char('>') + content));
     return 0;
 }
+
+void checkGrowth(const QByteArray& seed)
+{
+    const TranslationFileTool tool;
+    checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.checkBracesInContent(text); });
+}

@@ -13,7 +13,26 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const QString result = TranslationFileTool().processTsContent(content, mode);
     if (mode == 2 || !content.contains(QLatin1String("<source>")))
         FUZZ_CHECK(result == content);
+    // Valid UTF-8 is processed as bytes, with the same result.
+    const QByteArray bytes(reinterpret_cast<const char*>(data) + 1, int(size - 1));
+    if (content.toUtf8() == bytes)
+        FUZZ_CHECK(TranslationFileTool().processTsUtf8(bytes, mode) == result.toUtf8());
     if (mode != 2 && size <= oracleLimit)
         FUZZ_CHECK(result == TranslationOracle::processTsContent(content, mode));
     return 0;
+}
+
+void checkGrowth(const QByteArray& seed)
+{
+    if (seed.isEmpty())
+        return;
+    const TranslationFileTool tool;
+    const int mode = uchar(seed.at(0)) % 3;
+    const QString content = textOf(seed.mid(1));
+    // Many entries (or broken ones), and one huge source text.
+    if (mode != 2)
+        checkLinearGrowth(content, [&](const QString& text) { tool.processTsContent(text, mode); });
+    checkLinearGrowth(
+        content, [&](const QString& text) { tool.processTsContent(text, TranslationFileTool::MockSwedish); },
+        QStringLiteral("<source>"), QStringLiteral("</source><translation></translation>"));
 }

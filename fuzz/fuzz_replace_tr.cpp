@@ -15,3 +15,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         FUZZ_CHECK(result == TranslationOracle::replaceTrCalls(content, context));
     return 0;
 }
+
+void checkGrowth(const QByteArray& seed)
+{
+    const TranslationFileTool tool;
+    checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.replaceTrCallsInContent(text, "Growth"); });
+}

@@ -1,7 +1,6 @@
 #include "TestRegExp.h"
 
 #include "TranslationMessages.h"
-#include "TranslationRunner.h"
 
 #include <QFileDialog>
 
@@ -28,7 +27,7 @@ void TestRegExp::onBtnStartClicked()
         return;
     }
     const TranslationRunner runner(m_tool, [this](const QString& message) { showNow(message); });
-    ui.m_feedback->setText(runner.runOnFile(mode, path).message);
+    ui.m_feedback->setText(runner.runOnFile(mode, path).shownText());
 }
 
 void TestRegExp::onBtnFileDialogClicked()
@@ -54,14 +53,13 @@ void TestRegExp::translateWholeProject()
         ui.m_feedback->setText(TranslationMessages::sourcePathNotSet());
         return;
     }
-    processDirectory(root);
-    ui.m_feedback->setText(TranslationMessages::replacingFinished());
+    ui.m_feedback->setText(processDirectory(root).shownText());
 }
 
-void TestRegExp::processDirectory(const QString& path)
+TranslationRunner::Result TestRegExp::processDirectory(const QString& path)
 {
-    m_tool.processDirectory(
-        path, [this](const QString& filePath) { showNow(TranslationMessages::processingFile(filePath)); });
+    const TranslationRunner runner(m_tool, [this](const QString& message) { showNow(message); });
+    return runner.rewriteTree(path);
 }
 
 void TestRegExp::showNow(const QString& message)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "TranslationFileTool.h"
+#include "TranslationRunner.h"
 #include "ui_TestRegExp.h"
 
 #include <QDialog>
@@ -17,7 +18,7 @@ public:
     // Rewrites the tr( calls of the whole tree named by $VN_TRANSLATION_SOURCE_PATH.
     void translateWholeProject();
     // Rewrites the tr( calls of every header and source file below path, showing each file.
-    void processDirectory(const QString& path);
+    TranslationRunner::Result processDirectory(const QString& path);
 
 protected slots:
     void onBtnStartClicked();

@@ -55,20 +55,24 @@ QString TranslationCommandLine::helpText()
         "  check-braces      check that the angle brackets balance\n"
         "  count-unfinished  count the unfinished translations\n"
         "  rewrite-tr        rewrite every tr( call of each FILE into QApplication::translate( with\n"
-        "                    the file's base name as context; each FILE is rewritten in place\n"
+        "                    the file's base name as context; each FILE is rewritten in place, and\n"
+        "                    a file without a call is left byte for byte as it was\n"
         "  rewrite-tr --tree [DIR]\n"
         "                    rewrite every .h and .cpp file below DIR, or below the directory in\n"
         "                    $VN_TRANSLATION_SOURCE_PATH; directories whose path contains \"legacy\"\n"
         "                    or \"Legacy\" are skipped, symbolic links are not followed\n"
         "\n"
-        "Files whose names start with \"Rg\" or \"rg\" are never read.\n"
+        "Files whose names start with \"Rg\" or \"rg\" are never read. A byte-order mark selects\n"
+        "UTF-8, UTF-16 or UTF-32, otherwise files are read as UTF-8; text that is not valid in its\n"
+        "encoding is reported and never written. When a write fails (a full disk, for example),\n"
+        "the earlier content of the file is kept.\n"
         "\n"
         "Options:\n"
         "  -h, --help        show this text\n"
         "  --                end of options: every later argument is a FILE\n"
         "\n"
-        "Exit status: 0 when every file was processed, 1 when a file could not be processed,\n"
-        "2 on a usage error.\n");
+        "Exit status: 0 when every file was processed, 1 when a file could not be processed or\n"
+        "written or standard output could not be written, 2 on a usage error.\n");
 }
 
 int TranslationCommandLine::run(const QStringList& arguments)
@@ -110,21 +114,30 @@ int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& f
 {
     const TranslationFileTool tool;
     const TranslationRunner runner(tool, [this](const QString& message) { print(message); });
+    const int operation = operationOf(mode);
+    // The translating modes word their failure themselves; a count is no result when the file
+    // could not be read.
+    const bool messageOnFailure =
+        operation == TranslationRunner::FixTags || operation == TranslationRunner::MockSwedish;
     int exitCode = Success;
     for (const QString& file : files) {
-        if (files.size() > 1 && mode != rewriteMode)
+        const bool withHeader = files.size() > 1 && mode != rewriteMode;
+        if (withHeader && messageOnFailure)
             print(file + QLatin1Char(':'));
         const TranslationRunner::Result result =
-            mode == rewriteMode ? runner.rewriteFile(file) : runner.runOnFile(operationOf(mode), file);
-        if (!result.message.isEmpty())
-            print(result.message);
+            mode == rewriteMode ? runner.rewriteFile(file) : runner.runOnFile(operation, file);
+        if (result.succeeded || messageOnFailure) {
+            if (withHeader && !messageOnFailure)
+                print(file + QLatin1Char(':'));
+            if (!result.message.isEmpty())
+                print(result.message);
+        }
         if (!result.succeeded) {
-            m_err << programName << ": " << result.problem << '\n';
-            m_err.flush();
+            printProblem(result.problem);
             exitCode = FileFailed;
         }
     }
-    if (mode == rewriteMode)
+    if (mode == rewriteMode && exitCode == Success)
         print(TranslationMessages::replacingFinished());
     return exitCode;
 }
@@ -143,12 +156,19 @@ int TranslationCommandLine::runOnTree(const QStringList& arguments)
         return usageError(QStringLiteral("give DIR or set VN_TRANSLATION_SOURCE_PATH."));
     }
     const TranslationRunner::Result result = root.isEmpty() ? runner.rewriteWholeProject() : runner.rewriteTree(root);
-    print(result.message);
-    if (result.succeeded)
+    if (result.succeeded) {
+        print(result.message);
         return Success;
-    m_err << programName << ": " << result.problem << '\n';
-    m_err.flush();
+    }
+    printProblem(result.problem);
     return FileFailed;
+}
+
+void TranslationCommandLine::printProblem(const QString& problem)
+{
+    for (const QString& line : problem.split(QLatin1Char('\n')))
+        m_err << programName << ": " << line << '\n';
+    m_err.flush();
 }
 
 int TranslationCommandLine::usageError(const QString& problem)

@@ -28,6 +28,7 @@ private:
     int runOnFiles(const QString& mode, const QStringList& files);
     int runOnTree(const QStringList& arguments);
     void print(const QString& message);
+    void printProblem(const QString& problem);
 
     QTextStream& m_out;
     QTextStream& m_err;

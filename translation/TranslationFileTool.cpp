@@ -3,17 +3,17 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <initializer_list>
+#include <string_view>
 #include <utility>
 
 namespace {
 
-// Files beyond this size are treated as unreadable: the mock translation can
-// triple a file, and the result must still fit into one QString.
-const qint64 maxFileSize = qint64(128) * 1024 * 1024;
+using TextFileIo::Status;
 
 const QLatin1String sourceOpen("<source>");
 const QLatin1String sourceClose("</source>");
@@ -32,38 +32,18 @@ void printCannotWrite()
     printLine(QByteArrayLiteral("Can not open/generate the output file."));
 }
 
-bool isExcludedFromReading(const QFileInfo& info)
+// A text-mode read drops every carriage return.
+void removeCarriageReturns(QString& text)
 {
-    const QString baseName = info.baseName();
-    return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
+    if (text.contains(QLatin1Char('\r')))
+        text.remove(QLatin1Char('\r'));
 }
 
-QByteArray readFileBytes(const QString& filePath)
+TextFileIo::Result withStatus(TextFileIo::Result result, Status status, const QString& path)
 {
-    const QFileInfo info(filePath);
-    // Opening a FIFO or a device would block or never reach the end.
-    if (isExcludedFromReading(info) || !info.isFile() || info.size() > maxFileSize)
-        return QByteArray();
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-        return QByteArray();
-    return file.readAll();
-}
-
-// The QByteArray overload of QString::fromUtf8() would stop at the first NUL byte.
-QString decodeUtf8(const QByteArray& bytes)
-{
-    const int size = bytes.size();
-    return size > 0 ? QString::fromUtf8(bytes.constData(), size) : QString();
-}
-
-bool writeAtomically(const QString& filePath, const QByteArray& data)
-{
-    QSaveFile file(filePath);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
-    file.write(data);
-    return file.commit();
+    result.status = status;
+    result.path = path;
+    return result;
 }
 
 bool isBlankText(const QChar* begin, const QChar* end)
@@ -80,10 +60,48 @@ void appendRange(QString& target, const QString& text, int begin, int end)
     target.append(text.constData() + begin, end - begin);
 }
 
-void replaceInOrder(QString& text, std::initializer_list<std::pair<QString, QString>> replacements)
+// The index of the first occurrence of needle at or after from, or -1.
+int find(const QString& text, const QString& needle, int from)
+{
+    const QChar* data = text.constData();
+    const QChar* needleData = needle.constData();
+    const int last = text.size() - needle.size();
+    for (int at = from; at <= last; ++at) {
+        if (data[at] == needleData[0] && std::equal(needleData + 1, needleData + needle.size(), data + at + 1))
+            return at;
+    }
+    return -1;
+}
+
+/*
+  Replaces every occurrence of before, left to right, as QString::replace()
+  does, but in one pass: QString::replace() moves the rest of the text once per
+  1024 occurrences that change its length, which is quadratic on a long text.
+  The result is built in scratch, whose memory is used again from step to step.
+*/
+void replaceAll(QString& text, const QString& before, const QString& after, QString& scratch)
+{
+    int at = find(text, before, 0);
+    if (at < 0)
+        return;
+    QString& result = scratch;
+    result.truncate(0); // keeps the reserved memory
+    result.reserve(text.size() + (after.size() > before.size() ? text.size() / 2 : 0));
+    int copied = 0;
+    while (at >= 0) {
+        result.append(text.constData() + copied, at - copied);
+        result.append(after);
+        copied = at + before.size();
+        at = find(text, before, copied);
+    }
+    result.append(text.constData() + copied, text.size() - copied);
+    text.swap(result);
+}
+
+void replaceInOrder(QString& text, std::initializer_list<std::pair<QString, QString>> replacements, QString& scratch)
 {
     for (const auto& replacement : replacements)
-        text.replace(replacement.first, replacement.second);
+        replaceAll(text, replacement.first, replacement.second, scratch);
 }
 
 /*
@@ -116,33 +134,140 @@ struct TsEntry
   from the first "<source>", none exists from a later one either: a malformed
   file is searched once, not once per "<source>".
 */
-bool findTsEntry(const QString& text, int from, TsEntry* entry)
+// Searches in QString and UTF-8 text alike: every pattern is ASCII.
+int find(const QString& text, QLatin1String pattern, int from)
 {
-    const int start = text.indexOf(sourceOpen, from);
+    return text.indexOf(pattern, from);
+}
+
+int find(const QByteArray& text, QLatin1String pattern, int from)
+{
+    if (from < 0 || from > text.size())
+        return -1;
+    const std::string_view haystack(text.constData(), size_t(text.size()));
+    const size_t found = haystack.find(std::string_view(pattern.data(), size_t(pattern.size())), size_t(from));
+    return found == std::string_view::npos ? -1 : int(found);
+}
+
+int find(const QString& text, char character, int from)
+{
+    return text.indexOf(QLatin1Char(character), from);
+}
+
+int find(const QByteArray& text, char character, int from)
+{
+    return text.indexOf(character, from);
+}
+
+int findLast(const QString& text, QLatin1String pattern, int from)
+{
+    return text.lastIndexOf(pattern, from);
+}
+
+int findLast(const QByteArray& text, QLatin1String pattern, int from)
+{
+    return text.lastIndexOf(pattern.data(), from);
+}
+
+int findLast(const QString& text, char character, int from)
+{
+    return text.lastIndexOf(QLatin1Char(character), from);
+}
+
+int findLast(const QByteArray& text, char character, int from)
+{
+    return text.lastIndexOf(character, from);
+}
+
+template<typename Text>
+bool findTsEntry(const Text& text, int from, TsEntry* entry)
+{
+    const int start = find(text, sourceOpen, from);
     if (start < 0)
         return false;
-    const int firstSourceEnd = text.indexOf(sourceClose, start + sourceOpen.size());
+    const int firstSourceEnd = find(text, sourceClose, start + sourceOpen.size());
     if (firstSourceEnd < 0)
         return false;
-    const int firstTag = text.indexOf(translationOpen, firstSourceEnd + sourceClose.size());
+    const int firstTag = find(text, translationOpen, firstSourceEnd + sourceClose.size());
     if (firstTag < 0)
         return false;
-    const int firstTagClose = text.indexOf(QLatin1Char('>'), firstTag + translationOpen.size());
+    const int firstTagClose = find(text, '>', firstTag + translationOpen.size());
     if (firstTagClose < 0)
         return false;
-    const int translationEnd = text.indexOf(translationClose, firstTagClose + 1);
+    const int translationEnd = find(text, translationClose, firstTagClose + 1);
     if (translationEnd < 0)
         return false;
 
     // The backward searches stay inside the match and stop at firstTagClose,
     // firstTag and firstSourceEnd at the latest.
-    const int lastTagClose = text.lastIndexOf(QLatin1Char('>'), translationEnd - 1);
-    const int tag = text.lastIndexOf(translationOpen, lastTagClose - translationOpen.size());
+    const int lastTagClose = findLast(text, '>', translationEnd - 1);
+    const int tag = findLast(text, translationOpen, lastTagClose - translationOpen.size());
     entry->start = start;
-    entry->sourceEnd = text.lastIndexOf(sourceClose, tag - sourceClose.size());
+    entry->sourceEnd = findLast(text, sourceClose, tag - sourceClose.size());
     entry->tagEnd = tag + translationOpen.size();
-    entry->attributesEnd = text.indexOf(QLatin1Char('>'), entry->tagEnd);
+    entry->attributesEnd = find(text, '>', entry->tagEnd);
     entry->translationEnd = translationEnd;
+    return true;
+}
+
+// Whether UTF-8 text is blank as QChar::isSpace() sees it.
+bool isBlankUtf8(const char* begin, const char* end)
+{
+    for (const char* it = begin; it != end; ++it) {
+        const uchar byte = uchar(*it);
+        if (byte < 0x80) {
+            if (!QChar::isSpace(byte))
+                return false;
+        } else {
+            // Only a few non-ASCII characters are blanks; decode the rest of the text to look.
+            const QString rest = QString::fromUtf8(it, int(end - it));
+            return std::all_of(rest.begin(), rest.end(), [](QChar character) { return character.isSpace(); });
+        }
+    }
+    return true;
+}
+
+/*
+  Whether bytes are valid UTF-8 as the decoder reads them: no stray continuation bytes, cut-off or
+  overlong sequences, encoded surrogates or code points beyond U+10FFFF.
+*/
+bool isValidUtf8(const char* data, int size)
+{
+    const uchar* it = reinterpret_cast<const uchar*>(data);
+    const uchar* end = it + size;
+    while (it != end) {
+        quint64 eightBytes = 0;
+        if (end - it >= 8 && (std::memcpy(&eightBytes, it, 8), (eightBytes & 0x8080808080808080ull) == 0)) {
+            it += 8; // all ASCII
+            continue;
+        }
+        if (*it < 0x80) {
+            ++it;
+            continue;
+        }
+        int length = 0;
+        uint minimum = 0;
+        uint codePoint = 0;
+        if ((*it & 0xE0) == 0xC0) {
+            length = 2, minimum = 0x80, codePoint = *it & 0x1F;
+        } else if ((*it & 0xF0) == 0xE0) {
+            length = 3, minimum = 0x800, codePoint = *it & 0x0F;
+        } else if ((*it & 0xF8) == 0xF0) {
+            length = 4, minimum = 0x10000, codePoint = *it & 0x07;
+        } else {
+            return false;
+        }
+        if (end - it < length)
+            return false;
+        for (int index = 1; index < length; ++index) {
+            if ((it[index] & 0xC0) != 0x80)
+                return false;
+            codePoint = (codePoint << 6) | (it[index] & 0x3F);
+        }
+        if (codePoint < minimum || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF))
+            return false;
+        it += length;
+    }
     return true;
 }
 
@@ -175,6 +300,26 @@ int findTrCall(const QString& text, int from, int* callEnd)
     return -1;
 }
 
+QString rewriteCalls(const QString& content, const QString& context, int* calls)
+{
+    const QString call = QLatin1String("QApplication::translate(\"") + context + QLatin1String("\", ");
+    int callEnd = 0;
+    int at = findTrCall(content, 0, &callEnd);
+    if (at < 0)
+        return content;
+    QString result;
+    result.reserve(content.size() + content.size() / 8);
+    int copied = 0;
+    for (; at >= 0; at = findTrCall(content, copied, &callEnd)) {
+        appendRange(result, content, copied, at + 1);
+        result += call;
+        copied = callEnd;
+        ++*calls;
+    }
+    appendRange(result, content, copied, content.size());
+    return result;
+}
+
 } // namespace
 
 TranslationFileTool::TranslationFileTool() = default;
@@ -183,34 +328,47 @@ TranslationFileTool::~TranslationFileTool() = default;
 
 QString TranslationFileTool::readTranslationFile(const QString& filePath) const
 {
-    return decodeUtf8(readFileBytes(filePath));
+    QString text;
+    return readText(filePath, &text).ok() ? text : QString();
+}
+
+TranslationFileTool::FileResult TranslationFileTool::readText(const QString& filePath, QString* text) const
+{
+    text->clear();
+    TextFileIo::Encoding encoding;
+    QByteArray bytes;
+    FileResult result = TextFileIo::readBytes(filePath, &bytes);
+    if (!result.ok())
+        return result;
+    result = TextFileIo::decode(bytes, text, &encoding);
+    result.path = filePath;
+    if (!result.ok())
+        text->clear();
+    removeCarriageReturns(*text);
+    return result;
 }
 
 bool TranslationFileTool::processTsFile(const QString& filePath, int mode) const
 {
-    printLine(QByteArrayLiteral("Start parsing ts files at: ") + filePath.toLocal8Bit());
-    const QString content = readTranslationFile(filePath);
-    if (content.isEmpty())
-        return false;
-    QString suffix;
-    if (mode == FixTags)
-        suffix = QStringLiteral(".fix");
-    else if (mode == MockSwedish)
-        suffix = QStringLiteral(".swe");
-    else
-        return false;
+    return processTs(filePath, mode).ok();
+}
 
-    QSaveFile output(filePath + suffix);
-    if (!output.open(QIODevice::WriteOnly)) {
+TranslationFileTool::FileResult TranslationFileTool::processTs(const QString& filePath, int mode) const
+{
+    printLine(QByteArrayLiteral("Start parsing ts files at: ") + filePath.toLocal8Bit());
+    QByteArray bytes;
+    const FileResult read = TextFileIo::readBytes(filePath, &bytes);
+    if (!read.ok())
+        return read;
+    QByteArray output;
+    const FileResult converted = convertTs(bytes, mode, &output);
+    if (!converted.ok())
+        return withStatus(converted, converted.status, filePath);
+    bytes.clear(); // the input is no longer needed while the output is written
+    const FileResult written = TextFileIo::writeInPlace(filePath + outputSuffix(mode), output);
+    if (!written.ok())
         printCannotWrite();
-        return false;
-    }
-    output.write(processTsContent(content, mode).toUtf8());
-    if (!output.commit()) {
-        printCannotWrite();
-        return false;
-    }
-    return true;
+    return written;
 }
 
 QString TranslationFileTool::processTsContent(const QString& content, int mode) const
@@ -245,21 +403,58 @@ QString TranslationFileTool::processTsContent(const QString& content, int mode) 
     return result;
 }
 
+QByteArray TranslationFileTool::processTsUtf8(const QByteArray& content, int mode) const
+{
+    if (mode != FixTags && mode != MockSwedish)
+        return content;
+    QByteArray result;
+    result.reserve(content.size() + content.size() / 8);
+    int copied = 0;
+    TsEntry entry;
+    const char* data = content.constData();
+    while (findTsEntry(content, copied, &entry)) {
+        result.append(data + copied, entry.tagEnd - copied);
+        const char* source = data + entry.sourceBegin();
+        const int sourceSize = entry.sourceEnd - entry.sourceBegin();
+        if (isBlankUtf8(source, source + sourceSize)) {
+            result += '>';
+            result.append(source, sourceSize);
+            result += translationClose.data();
+        } else if (mode == MockSwedish) {
+            result += '>';
+            result += mockSwedish(QString::fromUtf8(source, sourceSize)).toUtf8();
+            result += translationClose.data();
+        } else if (isBlankUtf8(data + entry.translationBegin(), data + entry.translationEnd)) {
+            result += " type=\"unfinished\"></translation>";
+        } else {
+            result.append(data + entry.attributesEnd, entry.end() - entry.attributesEnd);
+        }
+        copied = entry.end();
+    }
+    result.append(data + copied, content.size() - copied);
+    return result;
+}
+
 QString TranslationFileTool::mockSwedish(const QString& source) const
 {
     if (source.isEmpty() || source.contains(QLatin1String("html"), Qt::CaseInsensitive))
         return source;
 
     QString text = source;
+    QString scratch;
     // "&lt;" stays unshielded on purpose: its letters get transformed.
-    replaceInOrder(text, {{QStringLiteral("&quot;"), QStringLiteral("##1##")},
-                          {QStringLiteral("&apos;"), QStringLiteral("##2##")},
-                          {QStringLiteral("&amp;"), QStringLiteral("##3##")},
-                          {QStringLiteral("&gt;"), QStringLiteral("##4##")}});
-    replaceInOrder(text, {{QStringLiteral("An"), QStringLiteral("Ån")},
-                          {QStringLiteral("an"), QStringLiteral("ån")},
-                          {QStringLiteral("Au"), QStringLiteral("Oo")},
-                          {QStringLiteral("au"), QStringLiteral("oo")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("&quot;"), QStringLiteral("##1##")},
+                    {QStringLiteral("&apos;"), QStringLiteral("##2##")},
+                    {QStringLiteral("&amp;"), QStringLiteral("##3##")},
+                    {QStringLiteral("&gt;"), QStringLiteral("##4##")}},
+                   scratch);
+    replaceInOrder(text,
+                   {{QStringLiteral("An"), QStringLiteral("Ån")},
+                    {QStringLiteral("an"), QStringLiteral("ån")},
+                    {QStringLiteral("Au"), QStringLiteral("Oo")},
+                    {QStringLiteral("au"), QStringLiteral("oo")}},
+                   scratch);
 
     const QString last = text.right(1);
     text.chop(1);
@@ -267,16 +462,19 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
     text.replace(QLatin1Char('a'), QLatin1Char('e'));
     text += last;
 
-    replaceInOrder(text, {{QStringLiteral("En"), QStringLiteral("Ee")}, {QStringLiteral("en"), QStringLiteral("ee")}});
+    replaceInOrder(text, {{QStringLiteral("En"), QStringLiteral("Ee")}, {QStringLiteral("en"), QStringLiteral("ee")}},
+                   scratch);
 
     QString first = text.left(1);
     text.remove(0, 1);
-    replaceInOrder(text, {{QStringLiteral("ew"), QStringLiteral("oo")},
-                          {QStringLiteral("f"), QStringLiteral("ff")},
-                          {QStringLiteral("ir"), QStringLiteral("ur")},
-                          {QStringLiteral("tion"), QStringLiteral("shun")},
-                          {QStringLiteral("i"), QStringLiteral("ee")},
-                          {QStringLiteral("ow"), QStringLiteral("oo")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("ew"), QStringLiteral("oo")},
+                    {QStringLiteral("f"), QStringLiteral("ff")},
+                    {QStringLiteral("ir"), QStringLiteral("ur")},
+                    {QStringLiteral("tion"), QStringLiteral("shun")},
+                    {QStringLiteral("i"), QStringLiteral("ee")},
+                    {QStringLiteral("ow"), QStringLiteral("oo")}},
+                   scratch);
     text.prepend(first);
 
     if (source.startsWith(QLatin1Char('O')))
@@ -288,7 +486,7 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
 
     first = text.left(1);
     text.remove(0, 1);
-    text.replace(QLatin1Char('u'), QStringLiteral("oo"));
+    replaceAll(text, QStringLiteral("u"), QStringLiteral("oo"), scratch);
     text.prepend(first);
 
     // In this order a 'W' of the source ends as 'V', not as 'F'.
@@ -300,10 +498,12 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
     if (text.endsWith(QLatin1Char('e')))
         text += QStringLiteral("-æ");
 
-    replaceInOrder(text, {{QStringLiteral("##1##"), QStringLiteral("&quot;")},
-                          {QStringLiteral("##2##"), QStringLiteral("&apos;")},
-                          {QStringLiteral("##3##"), QStringLiteral("&amp;")},
-                          {QStringLiteral("##4##"), QStringLiteral("&gt;")}});
+    replaceInOrder(text,
+                   {{QStringLiteral("##1##"), QStringLiteral("&quot;")},
+                    {QStringLiteral("##2##"), QStringLiteral("&apos;")},
+                    {QStringLiteral("##3##"), QStringLiteral("&amp;")},
+                    {QStringLiteral("##4##"), QStringLiteral("&gt;")}},
+                   scratch);
     return QStringLiteral("ü") + text;
 }
 
@@ -346,37 +546,72 @@ bool TranslationFileTool::checkBracesInContent(const QString& content) const
     return depth == 0;
 }
 
+QString TranslationFileTool::outputSuffix(int mode)
+{
+    return mode == FixTags ? QStringLiteral(".fix") : QStringLiteral(".swe");
+}
+
+/*
+  UTF-8 without a byte-order mark, the usual case, is processed as bytes, which needs neither a
+  decoded copy of the file nor the time to make one; other encodings are decoded first.
+*/
+TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes, int mode, QByteArray* output) const
+{
+    FileResult result;
+    if (mode != FixTags && mode != MockSwedish)
+        return withStatus(result, Status::UnknownMode, QString());
+    if (isValidUtf8(bytes.constData(), bytes.size()) && !bytes.startsWith("\xEF\xBB\xBF")) {
+        if (bytes.contains('\r'))
+            bytes.replace("\r", "");
+        if (bytes.isEmpty())
+            return withStatus(result, Status::Empty, QString());
+        *output = processTsUtf8(bytes, mode);
+        return result;
+    }
+    QString content;
+    TextFileIo::Encoding encoding;
+    result = TextFileIo::decode(bytes, &content, &encoding);
+    if (!result.ok())
+        return result;
+    removeCarriageReturns(content);
+    if (content.isEmpty())
+        return withStatus(result, Status::Empty, QString());
+    *output = TextFileIo::encode(processTsContent(content, mode), encoding);
+    return result;
+}
+
 bool TranslationFileTool::replaceTrCalls(const QString& filePath) const
 {
-    const QByteArray bytes = readFileBytes(filePath);
-    if (bytes.isEmpty())
-        return false;
-    const QString content = decodeUtf8(bytes);
-    // Decoding replaced invalid bytes; writing them back would destroy the original text.
-    if (content.toUtf8() != bytes)
-        return false;
-    const QString rewritten = replaceTrCallsInContent(content, QFileInfo(filePath).baseName());
-    return writeAtomically(filePath, rewritten.toUtf8());
+    return rewriteTrCalls(filePath).ok();
+}
+
+TranslationFileTool::FileResult TranslationFileTool::rewriteTrCalls(const QString& filePath) const
+{
+    QByteArray bytes;
+    const FileResult read = TextFileIo::readBytes(filePath, &bytes);
+    if (!read.ok())
+        return read;
+    QString content;
+    TextFileIo::Encoding encoding;
+    const FileResult decoded = TextFileIo::decode(bytes, &content, &encoding);
+    int calls = 0;
+    const QString rewritten = rewriteCalls(content, QFileInfo(filePath).baseName(), &calls);
+    if (calls == 0)
+        return read; // nothing to rewrite: every byte stays
+    // Writing undecodable text back would change more than the calls.
+    if (!decoded.ok() || TextFileIo::encode(content, encoding) != bytes)
+        return withStatus(decoded, Status::Undecodable, filePath);
+    return TextFileIo::writeInPlace(filePath, TextFileIo::encode(rewritten, encoding));
 }
 
 QString TranslationFileTool::replaceTrCallsInContent(const QString& content, const QString& context) const
 {
-    const QString call = QLatin1String("QApplication::translate(\"") + context + QLatin1String("\", ");
-    QString result;
-    result.reserve(content.size() + content.size() / 8);
-    int copied = 0;
-    int callEnd = 0;
-    for (int at = findTrCall(content, 0, &callEnd); at >= 0; at = findTrCall(content, copied, &callEnd)) {
-        appendRange(result, content, copied, at + 1);
-        result += call;
-        copied = callEnd;
-    }
-    appendRange(result, content, copied, content.size());
-    return result;
+    int calls = 0;
+    return rewriteCalls(content, context, &calls);
 }
 
 int TranslationFileTool::processDirectory(const QString& dirPath, const FileProgress& onFile,
-                                          const FileSkipped& onSkipped) const
+                                          const FileDone& onDone) const
 {
     if (dirPath.contains(QLatin1String("legacy")) || dirPath.contains(QLatin1String("Legacy")))
         return 0;
@@ -388,14 +623,15 @@ int TranslationFileTool::processDirectory(const QString& dirPath, const FileProg
             continue;
         if (entry.isDir()) {
             if (entry.fileName() != QLatin1String(".") && entry.fileName() != QLatin1String(".."))
-                rewritten += processDirectory(entry.filePath(), onFile, onSkipped);
+                rewritten += processDirectory(entry.filePath(), onFile, onDone);
         } else if (entry.isFile() && (entry.suffix() == QLatin1String("h") || entry.suffix() == QLatin1String("cpp"))) {
             if (onFile)
                 onFile(entry.filePath());
-            if (replaceTrCalls(entry.filePath()))
+            const FileResult result = rewriteTrCalls(entry.filePath());
+            if (result.changed)
                 ++rewritten;
-            else if (onSkipped)
-                onSkipped(entry.filePath());
+            if (onDone)
+                onDone(result);
         }
     }
     return rewritten;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TextFileIo.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -21,4 +23,7 @@ public:
     static QString processingFile(const QString& filePath);
     static QString replacingFinished();
     static QString sourcePathNotSet();
+    // Why a file could not be processed, naming the file.
+    static QString fileProblem(const TextFileIo::Result& result);
+    static QString notADirectory(const QString& path);
 };

@@ -5,6 +5,8 @@
 
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 void addProblem(TranslationRunner::Result& result, const QString& problem)
 {
@@ -37,27 +39,28 @@ TranslationRunner::Result TranslationRunner::runOnFile(int operation, const QStr
 
 TranslationRunner::Result TranslationRunner::count(int operation, const QString& filePath) const
 {
+    QString content;
+    const TextFileIo::Result read = m_tool.readText(filePath, &content);
     Result result;
     switch (operation) {
     case CountBraces:
-        result.message = TranslationMessages::braceCounts(m_tool.countChar(filePath, QLatin1Char('<')),
-                                                          m_tool.countChar(filePath, QLatin1Char('>')));
+        result.message =
+            TranslationMessages::braceCounts(content.count(QLatin1Char('<')), content.count(QLatin1Char('>')));
         break;
     case CountNumerus:
-        result.message =
-            TranslationMessages::numerusCount(m_tool.countString(filePath, QStringLiteral("numerus=\"yes\"")));
+        result.message = TranslationMessages::numerusCount(content.count(QLatin1String("numerus=\"yes\"")));
         break;
     case CheckBraces:
-        result.message = TranslationMessages::braceCheck(m_tool.checkBraces(filePath));
+        result.message = TranslationMessages::braceCheck(m_tool.checkBracesInContent(content));
         break;
     default:
-        result.message = TranslationMessages::unfinishedCount(m_tool.countUnfinished(filePath));
+        result.message =
+            TranslationMessages::unfinishedCount(content.count(QLatin1String("<translation type=\"unfinished\">")));
         break;
     }
-    // An unreadable file counts as empty; the counts above say so, the problem says why.
-    const QString problem = readProblem(filePath);
-    if (!problem.isEmpty())
-        addProblem(result, problem);
+    // An unreadable file counts as empty; the problem says why.
+    if (!read.ok())
+        addProblem(result, TranslationMessages::fileProblem(read));
     return result;
 }
 
@@ -65,19 +68,10 @@ TranslationRunner::Result TranslationRunner::translate(int mode, const QString& 
 {
     report(TranslationMessages::processing());
     Result result;
-    const bool succeeded = m_tool.processTsFile(filePath, mode);
-    result.message = TranslationMessages::translated(succeeded);
-    if (succeeded)
-        return result;
-    QString problem = readProblem(filePath);
-    if (problem.isEmpty() && m_tool.readTranslationFile(filePath).isEmpty())
-        problem = QStringLiteral("\"%1\" is empty.").arg(filePath);
-    if (problem.isEmpty()) {
-        const QString suffix =
-            mode == TranslationFileTool::MockSwedish ? QStringLiteral(".swe") : QStringLiteral(".fix");
-        problem = QStringLiteral("\"%1\" could not be written.").arg(filePath + suffix);
-    }
-    addProblem(result, problem);
+    const TextFileIo::Result processed = m_tool.processTs(filePath, mode);
+    result.message = TranslationMessages::translated(processed.ok());
+    if (!processed.ok())
+        addProblem(result, TranslationMessages::fileProblem(processed));
     return result;
 }
 
@@ -85,34 +79,25 @@ TranslationRunner::Result TranslationRunner::rewriteFile(const QString& filePath
 {
     report(TranslationMessages::processingFile(filePath));
     Result result;
-    if (m_tool.replaceTrCalls(filePath))
-        return result;
-    QString problem = readProblem(filePath);
-    if (problem.isEmpty() && QFileInfo(filePath).size() == 0)
-        return result; // nothing to rewrite
-    if (problem.isEmpty())
-        problem =
-            QStringLiteral("\"%1\" was left unchanged: it is not valid UTF-8 or could not be written.").arg(filePath);
-    addProblem(result, problem);
+    const TextFileIo::Result rewritten = m_tool.rewriteTrCalls(filePath);
+    if (!rewritten.ok())
+        addProblem(result, TranslationMessages::fileProblem(rewritten));
     return result;
 }
 
 TranslationRunner::Result TranslationRunner::rewriteTree(const QString& root) const
 {
     Result result;
-    if (!QFileInfo(root).isDir())
-        addProblem(result, QStringLiteral("\"%1\" is not a directory.").arg(root));
+    if (!QFileInfo(root).isDir()) {
+        addProblem(result, TranslationMessages::notADirectory(root));
+        return result;
+    }
     m_tool.processDirectory(
         root, [this](const QString& filePath) { report(TranslationMessages::processingFile(filePath)); },
-        [&result](const QString& filePath) {
-            // Empty files need no rewrite, and "Rg" files are left out of every walk on purpose.
-            if (QFileInfo(filePath).size() == 0 || isExcludedByName(filePath))
-                return;
-            QString problem = readProblem(filePath);
-            if (problem.isEmpty())
-                problem = QStringLiteral("\"%1\" was left unchanged: it is not valid UTF-8 or could not be written.")
-                              .arg(filePath);
-            addProblem(result, problem);
+        [&result](const TextFileIo::Result& done) {
+            // "Rg" files are left out of every walk on purpose.
+            if (!done.ok() && done.status != TextFileIo::Status::Excluded)
+                addProblem(result, TranslationMessages::fileProblem(done));
         });
     result.message = TranslationMessages::replacingFinished();
     return result;
@@ -129,27 +114,11 @@ TranslationRunner::Result TranslationRunner::rewriteWholeProject() const
     return result;
 }
 
-bool TranslationRunner::isExcludedByName(const QString& filePath)
+QString TranslationRunner::Result::shownText() const
 {
-    const QString baseName = QFileInfo(filePath).baseName();
-    return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
-}
-
-QString TranslationRunner::readProblem(const QString& filePath)
-{
-    const QFileInfo info(filePath);
-    if (!info.exists())
-        return QStringLiteral("\"%1\" does not exist.").arg(filePath);
-    if (!info.isFile())
-        return QStringLiteral("\"%1\" is not a regular file.").arg(filePath);
-    if (!info.isReadable())
-        return QStringLiteral("\"%1\" is not readable.").arg(filePath);
-    if (info.size() > qint64(128) * 1024 * 1024)
-        return QStringLiteral("\"%1\" is larger than 128 MiB.").arg(filePath);
-    if (isExcludedByName(filePath))
-        return QStringLiteral("\"%1\" was skipped: files whose names start with \"Rg\" or \"rg\" are never read.")
-            .arg(filePath);
-    return QString();
+    if (succeeded || problem.isEmpty())
+        return message;
+    return message.isEmpty() ? problem : message + QLatin1Char('\n') + problem;
 }
 
 void TranslationRunner::report(const QString& message) const

@@ -31,6 +31,9 @@ public:
         QString message; // what the dialog shows
         bool succeeded = true;
         QString problem; // why a file could not be processed, one line per file
+
+        // What the dialog shows: the message, followed by the problems when there are any.
+        QString shownText() const;
     };
 
     explicit TranslationRunner(const TranslationFileTool& tool, Progress progress = Progress());
@@ -40,15 +43,11 @@ public:
     Result runOnFile(int operation, const QString& filePath) const;
     // Rewrites the tr( calls of one header or source file in place; the message stays empty.
     Result rewriteFile(const QString& filePath) const;
-    // Rewrites every header and source file below root, skipping legacy directories.
+    // Rewrites every header and source file below root, skipping legacy directories; a root that
+    // is no directory gives no message, only the problem.
     Result rewriteTree(const QString& root) const;
     // rewriteTree() from $VN_TRANSLATION_SOURCE_PATH.
     Result rewriteWholeProject() const;
-
-    // Files whose base names start with "Rg" or "rg" are never read.
-    static bool isExcludedByName(const QString& filePath);
-    // Why the file cannot be read, or an empty string when it can.
-    static QString readProblem(const QString& filePath);
 
 private:
     void report(const QString& message) const;

@@ -14,6 +14,13 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include <iterator>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace {
 // The dialog with its file dialog replaced by a script: it answers with queued paths and
 // remembers where each dialog would have opened.
@@ -82,6 +89,7 @@ private slots:
     void fileDialogStartsAtPreviousFile();
     void wholeProjectNeedsEnvironment();
     void wholeProjectSkipsLegacy();
+    void failedWriteIsReported();
 
 private:
     QString writeFile(const QString& name, const QByteArray& content);
@@ -119,48 +127,49 @@ QString TestRegExpTest::feedback(TestRegExp& dialog)
     return dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback"))->toPlainText();
 }
 
+// What robots rely on: object names, classes and texts, top to bottom.
 void TestRegExpTest::form()
 {
     TestRegExp dialog(nullptr);
     QCOMPARE(dialog.objectName(), QStringLiteral("TestRegExpClass"));
     QCOMPARE(dialog.windowTitle(), QStringLiteral("TestRegExp"));
+    QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
     QCOMPARE(dialog.size(), QSize(600, 313));
-    QCOMPARE(dialog.minimumSize(), QSize(600, 313));
-    QCOMPARE(dialog.maximumSize(), QSize(600, 313));
-    const QMetaObject* meta = dialog.metaObject();
-    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") >= 0);
-    QVERIFY(meta->indexOfSlot("onBtnStartClicked()") < meta->indexOfSlot("onBtnFileDialogClicked()"));
-
+    const struct
+    {
+        const char* name;
+        const char* className;
+        QString text;
+    } widgets[] = {
+        {"m_infoArea", "VNInfoArea", "We need this for the mock Swedish!"},
+        {"m_pathDisplay", "QLabel", QString()},
+        {"m_btnFileDialog", "QPushButton", "Choose file..."},
+        {"m_modeSelection", "QComboBox",
+         "Fix tags|Mock swedish|Count braces|Count numerus tags|"
+         "Check brace correctness|tr to translate in whole project|"
+         "Count untranslated strings"},
+        {"m_feedback", "QTextBrowser", QString()},
+        {"m_btnStart", "QPushButton", "Start"},
+    };
     auto* layout = dialog.findChild<QVBoxLayout*>(QStringLiteral("verticalLayout_2"));
-    QVERIFY(layout);
-    QCOMPARE(layout->spacing(), 6);
-    QCOMPARE(layout->contentsMargins(), QMargins(11, 11, 11, 11));
-    const QStringList order = {"m_infoArea",      "m_pathDisplay", "m_btnFileDialog",
-                               "m_modeSelection", "m_feedback",    "m_btnStart"};
-    QCOMPARE(layout->count(), order.size());
-    for (int index = 0; index < order.size(); ++index)
-        QCOMPARE(layout->itemAt(index)->widget()->objectName(), order.at(index));
-
-    auto* info = dialog.findChild<VNInfoArea*>(QStringLiteral("m_infoArea"));
-    QCOMPARE(info->iconType(), VNInfoArea::Info);
-    QCOMPARE(info->text(), QStringLiteral("We need this for the mock Swedish!"));
-    auto* path = dialog.findChild<QLabel*>(QStringLiteral("m_pathDisplay"));
-    QVERIFY(path->text().isEmpty());
-    QCOMPARE(path->sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
-    QCOMPARE(path->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
-    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("m_btnFileDialog"))->text(),
-             QStringLiteral("Choose file..."));
-    QCOMPARE(dialog.findChild<QPushButton*>(QStringLiteral("m_btnStart"))->text(), QStringLiteral("Start"));
-    auto* modes = dialog.findChild<QComboBox*>(QStringLiteral("m_modeSelection"));
-    QStringList texts;
-    for (int index = 0; index < modes->count(); ++index)
-        texts << modes->itemText(index);
-    QCOMPARE(texts,
-             QStringList({"Fix tags", "Mock swedish", "Count braces", "Count numerus tags", "Check brace correctness",
-                          "tr to translate in whole project", "Count untranslated strings"}));
-    auto* feedback = dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback"));
-    QCOMPARE(feedback->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
-    QCOMPARE(feedback->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    QCOMPARE(layout->count(), int(std::size(widgets)));
+    for (int index = 0; index < layout->count(); ++index) {
+        QWidget* widget = layout->itemAt(index)->widget();
+        QCOMPARE(widget->objectName(), QLatin1String(widgets[index].name));
+        QCOMPARE(widget->metaObject()->className(), widgets[index].className);
+        QString text;
+        if (auto* info = qobject_cast<VNInfoArea*>(widget))
+            text = info->text();
+        else if (auto* label = qobject_cast<QLabel*>(widget))
+            text = label->text();
+        else if (auto* button = qobject_cast<QPushButton*>(widget))
+            text = button->text();
+        else if (auto* modes = qobject_cast<QComboBox*>(widget))
+            for (int item = 0; item < modes->count(); ++item)
+                text += (item > 0 ? "|" : "") + modes->itemText(item);
+        QCOMPARE(text, widgets[index].text);
+    }
+    QCOMPARE(dialog.findChild<VNInfoArea*>()->iconType(), VNInfoArea::Info);
 }
 
 void TestRegExpTest::openedFromLauncher()
@@ -217,8 +226,19 @@ void TestRegExpTest::modeMessages_data()
     QTest::newRow("braces incorrect") << 4 << QByteArray("><") << "The file's braces are incorrect." << QString();
     QTest::newRow("disabled with a path") << 5 << ts << "This feature is disabled." << QString();
     QTest::newRow("unfinished") << 6 << ts << "2 strings are not translated yet." << QString();
-    QTest::newRow("fix on empty file") << 0 << QByteArray() << "An error occurred. The file could not be translated."
+    QTest::newRow("fix on empty file") << 0 << QByteArray()
+                                       << "An error occurred. The file could not be translated.\n\"%1\" is empty."
                                        << QString();
+    QTest::newRow("mock on invalid UTF-8")
+        << 1 << QByteArray("<source>K\xe4se</source><translation></translation>")
+        << "An error occurred. The file could not be translated.\n"
+           "\"%1\" is not valid UTF-8 text; it was not processed and was left unchanged."
+        << QString();
+    QTest::newRow("count on invalid UTF-8")
+        << 2 << QByteArray("<\xff>")
+        << "The file contains:\n0 opening braces and \n0 closing braces.\n"
+           "\"%1\" is not valid UTF-8 text; it was not processed and was left unchanged."
+        << QString();
 }
 
 void TestRegExpTest::modeMessages()
@@ -230,7 +250,7 @@ void TestRegExpTest::modeMessages()
     const QString path = writeFile(QStringLiteral("sample.ts"), content);
     TestRegExp dialog(nullptr);
     start(dialog, mode, path);
-    QCOMPARE(feedback(dialog), message);
+    QCOMPARE(feedback(dialog), message.contains("%1") ? message.arg(path) : message);
     QCOMPARE(readBytes(path), content);
     const QStringList written = QDir(m_dir->path()).entryList(QDir::Files);
     if (outputSuffix.isEmpty()) {
@@ -303,6 +323,33 @@ void TestRegExpTest::wholeProjectSkipsLegacy()
         QCOMPARE(readBytes(untouched), source);
     for (const QString& file : {kept, header, upper})
         QVERIFY2(recorder.painted.contains(QStringLiteral("Processing:\n") + file), qPrintable(file));
+}
+
+void TestRegExpTest::failedWriteIsReported()
+{
+#ifdef Q_OS_UNIX
+    const QByteArray ts = QByteArray("<source>Open file</source><translation></translation>\n").repeated(100);
+    const QString path = writeFile(QStringLiteral("sample.ts"), ts);
+    const QString earlier = writeFile(QStringLiteral("sample.ts.swe"), "earlier");
+    TestRegExp dialog(nullptr);
+    // Writes beyond the size of the input fail, as on a full disk.
+    const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit previous;
+    getrlimit(RLIMIT_FSIZE, &previous);
+    rlimit limited = previous;
+    limited.rlim_cur = rlim_t(ts.size());
+    setrlimit(RLIMIT_FSIZE, &limited);
+    start(dialog, 1, path);
+    setrlimit(RLIMIT_FSIZE, &previous);
+    std::signal(SIGXFSZ, previousHandler);
+    QCOMPARE(feedback(dialog), QStringLiteral("An error occurred. The file could not be translated.\n"
+                                              "Writing \"%1\" failed (File too large); the file was left as it was.")
+                                   .arg(earlier));
+    QCOMPARE(readBytes(earlier), QByteArray("earlier"));
+    QCOMPARE(readBytes(path), ts);
+#else
+    QSKIP("needs a file size limit");
+#endif
 }
 
 QTEST_MAIN(TestRegExpTest)

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
@@ -56,6 +57,9 @@ private slots:
     void treeFromEnvironmentSkipsLegacy();
     void treeNeedsDirectory();
     void realProcessExitCodes();
+    void messagesMatchExitCodes_data();
+    void messagesMatchExitCodes();
+    void fullDiskAndReadOnlyFolder();
 
 private:
     QString writeFile(const QString& name, const QByteArray& content);
@@ -157,7 +161,8 @@ void TwcTranslateTest::unreadableFileFails()
     const QString skipped = writeFile(QStringLiteral("rgWidget.ts"), "<a>");
     const Run run = runInProcess({QStringLiteral("count-braces"), missing, good, skipped});
     QCOMPARE(run.exitCode, 1);
-    QVERIFY(run.out.contains(good + ":\nThe file contains:\n1 opening braces and \n1 closing braces.\n"));
+    // Only the readable file has a result; the others have only their problem.
+    QCOMPARE(run.out, good + ":\nThe file contains:\n1 opening braces and \n1 closing braces.\n");
     QVERIFY(run.err.contains(QStringLiteral("\"%1\" does not exist.").arg(missing)));
     QVERIFY(run.err.contains(QStringLiteral("\"%1\" was skipped").arg(skipped)));
     QVERIFY(!run.err.contains(good));
@@ -253,6 +258,92 @@ void TwcTranslateTest::realProcessExitCodes()
     QCOMPARE(exitCode({QStringLiteral("check-braces"), m_dir->filePath(QStringLiteral("gone.ts"))}), 1);
     QCOMPARE(exitCode({QStringLiteral("bogus")}), 2);
     QCOMPARE(exitCode({QStringLiteral("--help")}), 0);
+#ifdef Q_OS_UNIX
+    // Results that cannot reach standard output are no success.
+    QProcess full;
+    full.setStandardOutputFile(QStringLiteral("/dev/full"));
+    full.start(QStringLiteral(TWC_TRANSLATE_EXECUTABLE), {QStringLiteral("check-braces"), ts});
+    QVERIFY(full.waitForFinished(60000));
+    QCOMPARE(full.exitCode(), 1);
+    QVERIFY(full.readAllStandardError().contains("standard output"));
+#endif
+}
+
+void TwcTranslateTest::messagesMatchExitCodes_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("problem");
+    const QString missing = QStringLiteral("MISSING");
+    QTest::newRow("count missing") << QStringList({"count-braces", missing}) << QString() << "does not exist";
+    QTest::newRow("count unfinished missing")
+        << QStringList({"count-unfinished", missing}) << QString() << "does not exist";
+    QTest::newRow("tree missing") << QStringList({"rewrite-tr", "--tree", missing}) << QString()
+                                  << "is not a directory";
+    QTest::newRow("proc file") << QStringList({"rewrite-tr", "/proc/self/comm"}) << "Processing:\n/proc/self/comm\n"
+                               << "could not be read completely";
+    QTest::newRow("invalid UTF-8") << QStringList({"rewrite-tr", "LATIN1"}) << "Processing:\nLATIN1\n"
+                                   << "is not valid UTF-8 text";
+    QTest::newRow("mock invalid UTF-8")
+        << QStringList({"mock", "LATIN1"})
+        << "Processing...\nStart parsing ts files at: LATIN1\nAn error occurred. The file could not be translated.\n"
+        << "is not valid UTF-8 text";
+}
+
+void TwcTranslateTest::messagesMatchExitCodes()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, out);
+    QFETCH(QString, problem);
+    const QString latin1 = writeFile(QStringLiteral("Latin1.cpp"), "x = tr(\"K\xe4se\");\n");
+    arguments.replaceInStrings(QStringLiteral("MISSING"), m_dir->filePath(QStringLiteral("missing")));
+    arguments.replaceInStrings(QStringLiteral("LATIN1"), latin1);
+    QProcess process;
+    process.start(QStringLiteral(TWC_TRANSLATE_EXECUTABLE), arguments);
+    QVERIFY(process.waitForFinished(60000));
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(QString::fromLocal8Bit(process.readAllStandardOutput()), QString(out).replace("LATIN1", latin1));
+    QVERIFY(QString::fromLocal8Bit(process.readAllStandardError()).contains(problem));
+    QCOMPARE(readBytes(latin1), QByteArray("x = tr(\"K\xe4se\");\n"));
+}
+
+/*
+  A real full disk and a real read-only file system: a small tmpfs, mounted only where this test
+  may mount one (as root).
+*/
+void TwcTranslateTest::fullDiskAndReadOnlyFolder()
+{
+    const QString mountPoint = m_dir->filePath(QStringLiteral("small"));
+    QDir().mkpath(mountPoint);
+    const auto sh = [](const QString& command) { return QProcess::execute("sh", {"-c", command}); };
+    if (sh(QStringLiteral("mount -t tmpfs -o size=64k tmpfs '%1' 2>/dev/null").arg(mountPoint)) != 0)
+        QSKIP("cannot mount a small tmpfs here");
+    const QScopeGuard unmount([&] { sh(QStringLiteral("umount '%1'").arg(mountPoint)); });
+    QByteArray source;
+    for (int line = 0; line < 1500; ++line)
+        source += "x = tr(\"" + QByteArray::number(line) + "\");\r\n"; // 30 KB that grow to 70 KB
+    const QString big = ScratchFiles::write(QDir(mountPoint), QStringLiteral("Big.cpp"), source);
+    const QString ts = ScratchFiles::write(QDir(mountPoint), QStringLiteral("app.ts"),
+                                           QByteArray("<source>Open file</source><translation></translation>\n")
+                                               .repeated(370)); // 20 KB that grow to 26 KB
+    const Run rewrite = runInProcess({QStringLiteral("rewrite-tr"), big});
+    const Run mock = runInProcess({QStringLiteral("mock"), ts});
+    const QByteArray bigAfter = readBytes(big);
+    const bool sweLeft = QFileInfo::exists(ts + ".swe");
+    sh(QStringLiteral("mount -o remount,ro '%1'").arg(mountPoint));
+    const Run readOnly = runInProcess({QStringLiteral("rewrite-tr"), big});
+
+    QCOMPARE(rewrite.exitCode, 1);
+    QVERIFY(!rewrite.out.contains(QStringLiteral("Replacing finished.")));
+    QVERIFY2(rewrite.err.contains(QStringLiteral("No space left on device); the file was left as it was.")),
+             qPrintable(rewrite.err));
+    QCOMPARE(bigAfter, source);
+    QCOMPARE(mock.exitCode, 1);
+    QVERIFY(mock.out.endsWith(QStringLiteral("An error occurred. The file could not be translated.\n")));
+    QVERIFY(!sweLeft);
+    QCOMPARE(readOnly.exitCode, 1);
+    QVERIFY2(readOnly.err.contains(QStringLiteral("was left unchanged: the file is read-only.")),
+             qPrintable(readOnly.err));
 }
 
 QTEST_MAIN(TwcTranslateTest)

@@ -106,6 +106,19 @@ QByteArray generateMalformedTs(qint64 size)
     return ts;
 }
 
+// One message whose source text is the whole file: the shape in which a replace loop that moves
+// the rest of the text for every change turns quadratic.
+QByteArray generateOneSourceTs(qint64 size)
+{
+    Generator generator;
+    QByteArray source;
+    while (source.size() < size)
+        source += generator.sentence(8) + '\n';
+    return "<TS>\n<message>\n<source>" + source +
+           "</source>\n<translation type=\"unfinished\"></translation>\n"
+           "</message>\n</TS>\n";
+}
+
 QByteArray generateCpp(qint64 size)
 {
     Generator generator;
@@ -163,8 +176,15 @@ void measureTs(const TranslationFileTool& tool, const QString& path, const QStri
         {"check braces", [&] { tool.checkBraces(path); }},
         {"count unfinished", [&] { tool.countUnfinished(path); }},
     };
+    // An output that is already there with the same bytes is not written again; time the writing.
+    const auto removeOutputs = [&] {
+        QFile::remove(path + QStringLiteral(".fix"));
+        QFile::remove(path + QStringLiteral(".swe"));
+    };
     for (const auto& operation : operations)
-        results.push_back({label, megabytes, operation.first, bestMilliseconds(nothing, operation.second)});
+        results.push_back({label, megabytes, operation.first, bestMilliseconds(removeOutputs, operation.second)});
+    const double rewrite = bestMilliseconds(nothing, operations.at(1).second);
+    results.push_back({label, megabytes, QStringLiteral("mock, same output"), rewrite});
     if (lconvert.isEmpty())
         return;
     const auto convert = [&] {
@@ -182,6 +202,23 @@ void printResults(const std::vector<Measurement>& results)
         std::printf("%-16s %9.2f  %-17s %10.2f %9.1f\n", qPrintable(result.input), result.megabytes,
                     qPrintable(result.operation), result.milliseconds, result.megabytes * 1000.0 / result.milliseconds);
     }
+}
+
+// The 20 MB times of fix and mock as fractions of lconvert's time on the same file.
+void printLconvertRatios(const std::vector<Measurement>& results)
+{
+    const auto timeOf = [&](const QString& operation) {
+        for (const Measurement& result : results) {
+            if (result.input == QLatin1String("ts 20 MB") && result.operation == operation)
+                return result.milliseconds;
+        }
+        return 0.0;
+    };
+    const double lconvert = timeOf(QStringLiteral("lconvert"));
+    if (lconvert <= 0)
+        return;
+    std::printf("\nts 20 MB, share of lconvert's time: fix %.2f (goal 0.20), mock %.2f (goal 0.25)\n",
+                timeOf(QStringLiteral("fix")) / lconvert, timeOf(QStringLiteral("mock")) / lconvert);
 }
 
 } // namespace
@@ -220,7 +257,19 @@ int main(int argc, char** argv)
     measureTs(tool, malformedPath, QStringLiteral("malformed 400 KB"), malformed.size() / double(megabyte), QString(),
               results);
 
+    for (const int sizeMb : {8, 32}) {
+        const QString path = workDir.filePath(QStringLiteral("onesource_%1.ts").arg(sizeMb));
+        const QByteArray ts = generateOneSourceTs(sizeMb * megabyte);
+        if (!writeFile(path, ts))
+            return 1;
+        const double ms = bestMilliseconds([&] { QFile::remove(path + QStringLiteral(".swe")); },
+                                           [&] { tool.processTsFile(path, TranslationFileTool::MockSwedish); });
+        results.push_back(
+            {QStringLiteral("one source %1 MB").arg(sizeMb), ts.size() / double(megabyte), QStringLiteral("mock"), ms});
+    }
+
     printResults(results);
+    printLconvertRatios(results);
     if (lconvert.isEmpty())
         std::printf("lconvert: not found\n");
     else

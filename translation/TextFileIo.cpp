@@ -1,0 +1,233 @@
+#include "TextFileIo.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryFile>
+#include <QTextCodec>
+
+#include <algorithm>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <unistd.h>
+#endif
+
+namespace TextFileIo {
+namespace {
+
+struct ByteOrderMark
+{
+    const char* bytes;
+    int size;
+    Encoding encoding;
+    const char* codecName;
+};
+
+// The four-byte marks first: the UTF-32 little-endian mark begins with the UTF-16 one.
+const ByteOrderMark byteOrderMarks[] = {
+    {"\xFF\xFE\x00\x00", 4, Encoding::Utf32LittleEndian, "UTF-32LE"},
+    {"\x00\x00\xFE\xFF", 4, Encoding::Utf32BigEndian, "UTF-32BE"},
+    {"\xEF\xBB\xBF", 3, Encoding::Utf8WithBom, "UTF-8"},
+    {"\xFF\xFE", 2, Encoding::Utf16LittleEndian, "UTF-16LE"},
+    {"\xFE\xFF", 2, Encoding::Utf16BigEndian, "UTF-16BE"},
+};
+
+const ByteOrderMark* markOf(Encoding encoding)
+{
+    for (const ByteOrderMark& mark : byteOrderMarks) {
+        if (mark.encoding == encoding)
+            return &mark;
+    }
+    return nullptr;
+}
+
+Result failure(Status status, const QString& path, const QString& detail = QString())
+{
+    Result result;
+    result.status = status;
+    result.path = path;
+    result.detail = detail;
+    return result;
+}
+
+// Decodes strictly: the text must survive the way back unchanged.
+bool decodeWithCodec(const char* codecName, const char* data, int size, QString* text)
+{
+    QTextCodec* codec = QTextCodec::codecForName(codecName);
+    if (!codec)
+        return false;
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    *text = codec->toUnicode(data, size, &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
+bool decodeUtf8(const char* data, int size, QString* text)
+{
+    *text = size > 0 ? QString::fromUtf8(data, size) : QString();
+    // Invalid bytes become U+FFFD; only then is the slower, counting decoder needed.
+    if (!text->contains(QChar(QChar::ReplacementCharacter)))
+        return true;
+    return decodeWithCodec("UTF-8", data, size, text);
+}
+
+bool isReadOnly(const QString& filePath, bool exists)
+{
+#ifdef Q_OS_UNIX
+    const QByteArray target = QFile::encodeName(exists ? filePath : QFileInfo(filePath).absolutePath());
+    return ::access(target.constData(), W_OK) != 0 && (errno == EACCES || errno == EPERM || errno == EROFS);
+#else
+    return exists ? !QFileInfo(filePath).isWritable() : !QFileInfo(QFileInfo(filePath).absolutePath()).isWritable();
+#endif
+}
+
+// Writes all bytes at the given offset; a short write is retried so that its reason is known.
+bool writeAt(QFile& file, qint64 offset, const char* data, qint64 size)
+{
+    if (!file.seek(offset))
+        return false;
+    while (size > 0) {
+        const qint64 written = file.write(data, size);
+        if (written <= 0)
+            return false;
+        data += written;
+        size -= written;
+    }
+    return true;
+}
+
+bool writeBack(QFile& file, const QByteArray& old)
+{
+    return writeAt(file, 0, old.constData(), old.size()) && file.resize(old.size());
+}
+
+// Where the earlier content goes when it cannot be written back; empty if nowhere.
+QString saveBackup(const QString& filePath, const QByteArray& old)
+{
+    QTemporaryFile backup(QDir::temp().filePath(QFileInfo(filePath).fileName() + QStringLiteral(".original.XXXXXX")));
+    backup.setAutoRemove(false);
+    if (!backup.open() || backup.write(old) != old.size() || !backup.flush()) {
+        backup.remove();
+        return QString();
+    }
+    return backup.fileName();
+}
+
+Result restoreAfterFailure(QFile& file, const QByteArray& old, const QString& reason)
+{
+    if (writeBack(file, old))
+        return failure(Status::WriteFailed, file.fileName(), reason);
+    return failure(Status::RestoreFailed, file.fileName(), saveBackup(file.fileName(), old));
+}
+
+} // namespace
+
+bool isExcludedByName(const QString& filePath)
+{
+    const QString baseName = QFileInfo(filePath).baseName();
+    return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
+}
+
+Result readBytes(const QString& filePath, QByteArray* bytes)
+{
+    bytes->clear();
+    const QFileInfo info(filePath);
+    if (isExcludedByName(filePath))
+        return failure(Status::Excluded, filePath);
+    if (!info.exists())
+        return failure(Status::Missing, filePath);
+    // Opening a FIFO or a device would block or never reach the end.
+    if (!info.isFile())
+        return failure(Status::NotRegularFile, filePath);
+    if (info.size() > maxFileSize)
+        return failure(Status::TooLarge, filePath);
+    QFile file(filePath);
+    if (!file.open(QIODevice::ReadOnly))
+        return failure(Status::NotReadable, filePath, file.errorString());
+    *bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return failure(Status::NotReadable, filePath, file.errorString());
+    if (bytes->size() != info.size())
+        return failure(Status::SizeChanged, filePath);
+    return failure(Status::Ok, filePath);
+}
+
+Result decode(const QByteArray& bytes, QString* text, Encoding* encoding)
+{
+    const char* data = bytes.constData();
+    int size = bytes.size();
+    const char* codecName = nullptr;
+    *encoding = Encoding::Utf8;
+    for (const ByteOrderMark& mark : byteOrderMarks) {
+        if (size >= mark.size && std::equal(mark.bytes, mark.bytes + mark.size, data)) {
+            *encoding = mark.encoding;
+            codecName = mark.codecName;
+            data += mark.size;
+            size -= mark.size;
+            break;
+        }
+    }
+    const bool valid = *encoding == Encoding::Utf8 || *encoding == Encoding::Utf8WithBom
+                           ? decodeUtf8(data, size, text)
+                           : decodeWithCodec(codecName, data, size, text);
+    if (!valid)
+        return failure(Status::Undecodable, QString(), encodingName(*encoding));
+    return Result();
+}
+
+QByteArray encode(const QString& text, Encoding encoding)
+{
+    if (encoding == Encoding::Utf8)
+        return text.toUtf8();
+    const ByteOrderMark* mark = markOf(encoding);
+    QByteArray bytes(mark->bytes, mark->size);
+    if (encoding == Encoding::Utf8WithBom)
+        return bytes + text.toUtf8();
+    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
+    return bytes + QTextCodec::codecForName(mark->codecName)->fromUnicode(text.constData(), text.size(), &state);
+}
+
+QString encodingName(Encoding encoding)
+{
+    const ByteOrderMark* mark = markOf(encoding);
+    return mark ? QString::fromLatin1(mark->codecName) : QStringLiteral("UTF-8");
+}
+
+Result writeInPlace(const QString& filePath, const QByteArray& data)
+{
+    QFile file(filePath);
+    const bool existed = file.exists();
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
+        const Status status = isReadOnly(filePath, existed) ? Status::ReadOnly : Status::WriteFailed;
+        return failure(status, filePath, file.errorString());
+    }
+    const QByteArray old = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return failure(Status::NotReadable, filePath, file.errorString());
+    Result result = failure(Status::Ok, filePath);
+    if (old == data)
+        return result;
+    result.changed = true;
+
+    // Growing first: a full disk stops the write before any old byte is overwritten.
+    const qint64 common = std::min(old.size(), data.size());
+    if (!writeAt(file, old.size(), data.constData() + common, data.size() - common)) {
+        const QString reason = file.errorString();
+        if (!existed) {
+            file.remove();
+            return failure(Status::WriteFailed, filePath, reason);
+        }
+        return file.resize(old.size()) ? failure(Status::WriteFailed, filePath, reason)
+                                       : restoreAfterFailure(file, old, reason);
+    }
+    if (!writeAt(file, 0, data.constData(), common) || !file.resize(data.size()) || !file.flush())
+        return restoreAfterFailure(file, old, file.errorString());
+    file.close();
+    if (file.error() == QFileDevice::NoError)
+        return result;
+    const QString reason = file.errorString();
+    file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
+    return restoreAfterFailure(file, old, reason);
+}
+
+} // namespace TextFileIo
