@@ -2,6 +2,7 @@
 
 #include <QCompleter>
 #include <QLineEdit>
+#include <QListView>
 
 VNFilterComboBox::VNFilterComboBox(QWidget* parent)
     : VNComboBox(parent)
@@ -15,6 +16,11 @@ VNFilterComboBox::VNFilterComboBox(QWidget* parent)
     m_completer->setFilterMode(Qt::MatchContains);
     m_completer->setCaseSensitivity(Qt::CaseInsensitive);
     m_completer->setMaxVisibleItems(12);
+    // With long lists the popup must not measure every row it shows.
+    if (auto* list = qobject_cast<QListView*>(m_completer->popup())) {
+        list->setUniformItemSizes(true);
+        list->setLayoutMode(QListView::Batched);
+    }
     setCompleter(m_completer);
     connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this, &VNFilterComboBox::chooseText);
 }
