@@ -52,8 +52,6 @@ private slots:
     void cleanup();
     void form_data();
     void form();
-    void spinBoxRanges_data();
-    void spinBoxRanges();
     void seededSigmaSlider();
     void sigmaTabPaintsZones();
     void draggingAdmissibleRangeUpdatesSpinBoxes();
@@ -67,7 +65,6 @@ private slots:
     void defCurrentMovesThreeSliders();
     void rangeSpinBoxesAreInert();
     void enabledBoxes();
-    void spanSliderRange();
 };
 
 void SliderViewTest::cleanup()
@@ -149,34 +146,6 @@ void SliderViewTest::form()
     QCOMPARE(tabs->tabText(1), QString("Sigma"));
 }
 
-void SliderViewTest::spinBoxRanges_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("minimum");
-    QTest::addColumn<int>("maximum");
-    QTest::newRow("def_min") << "def_min" << -500 << 500;
-    QTest::newRow("def_max") << "def_max" << 0 << 500;
-    QTest::newRow("def_current") << "def_current" << 0 << 200;
-    QTest::newRow("def_pos") << "def_pos" << 0 << 100;
-    QTest::newRow("m_a") << "m_a" << 0 << 255;
-    QTest::newRow("m_current") << "m_current" << 0 << 100;
-    QTest::newRow("m_min") << "m_min" << -500 << 500;
-    QTest::newRow("m_admissMin") << "m_admissMin" << -50 << 500;
-    QTest::newRow("m_sublimitMax") << "m_sublimitMax" << 0 << 500;
-    QTest::newRow("m_markBest") << "m_markBest" << -1 << 500;
-}
-
-void SliderViewTest::spinBoxRanges()
-{
-    QFETCH(QString, name);
-    QFETCH(int, minimum);
-    QFETCH(int, maximum);
-    TestVNSliderView dialog(nullptr);
-    auto* box = spin(&dialog, name.toLatin1().constData());
-    QCOMPARE(box->minimum(), minimum);
-    QCOMPARE(box->maximum(), maximum);
-}
-
 void SliderViewTest::seededSigmaSlider()
 {
     TestVNSliderView dialog(nullptr);
@@ -196,6 +165,11 @@ void SliderViewTest::seededSigmaSlider()
                                                       {"m_sublimitMax", 100}};
     for (const auto& seed : seeds)
         QCOMPARE(spin(&dialog, seed.first)->value(), seed.second);
+    VNSlider* span = slider(&dialog, "m_spanSlider");
+    QVERIFY(span->isSpanSlider());
+    QCOMPARE(span->admissibleRange().minimum, 30);
+    QCOMPARE(span->admissibleRange().maximum, 150);
+    QCOMPARE(spin(&dialog, "m_markBest")->minimum(), -1);
 }
 
 void SliderViewTest::sigmaTabPaintsZones()
@@ -376,17 +350,6 @@ void SliderViewTest::enabledBoxes()
     child<QCheckBox>(&dialog, "vert_enabled")->setChecked(false);
     QVERIFY(!child<QSlider>(&dialog, "m_verticalQSlider")->isEnabled());
     QVERIFY(!slider(&dialog, "m_verticalVNSlider")->isEnabled());
-}
-
-void SliderViewTest::spanSliderRange()
-{
-    TestVNSliderView dialog(nullptr);
-    VNSlider* span = slider(&dialog, "m_spanSlider");
-    QVERIFY(span->isSpanSlider());
-    QCOMPARE(span->admissibleRange().minimum, 30);
-    QCOMPARE(span->admissibleRange().maximum, 150);
-    QVERIFY(slider(&dialog, "m_extendedSlider")->isExtended());
-    QVERIFY(!slider(&dialog, "m_vnSlider")->isDVValueSlider());
 }
 
 QTEST_MAIN(SliderViewTest)

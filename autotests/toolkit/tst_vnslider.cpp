@@ -63,7 +63,6 @@ private slots:
     void admissibleHandlesBelowGroove();
     void draggingAdmissibleHandle_data();
     void draggingAdmissibleHandle();
-    void handlesCannotCross();
     void valueDragRespectsTrackingAndSublimit();
     void inputDisabledIgnoresMouse();
     void spanSliderHandles();
@@ -128,6 +127,7 @@ void VNSliderTest::draggingAdmissibleHandle_data()
     QTest::newRow("minimum to the start") << 5 << 0 << 0 << 95;
     QTest::newRow("maximum down") << 95 << 80 << 5 << 80;
     QTest::newRow("maximum past the end stays in range") << 95 << 130 << 5 << 100;
+    QTest::newRow("minimum cannot pass maximum") << 5 << 99 << 95 << 95;
 }
 
 void VNSliderTest::draggingAdmissibleHandle()
@@ -149,17 +149,8 @@ void VNSliderTest::draggingAdmissibleHandle()
     QCOMPARE(slider.value(), 70);
     const QImage image = slider.grab().toImage();
     QCOMPARE(pixel(image, slider.pixelPosition(handle == 5 ? expectedMinimum : expectedMaximum), below), admissible);
-}
-
-void VNSliderTest::handlesCannotCross()
-{
-    VNSlider slider(Qt::Horizontal);
-    makeSigmaSlider(slider);
-    QSignalSpy spy(&slider, &VNSlider::admissibleRangeChanged);
-    const int below = slider.grooveRect().bottom() + 6;
-    drag(&slider, QPoint(slider.pixelPosition(5), below), QPoint(slider.pixelPosition(99), below));
-    QCOMPARE(slider.admissibleRange().minimum, 95);
-    QCOMPARE(slider.admissibleRange().maximum, 95);
+    QVERIFY(pixel(image, slider.pixelPosition(handle), below) != admissible || handle == expectedMinimum ||
+            handle == expectedMaximum);
 }
 
 void VNSliderTest::valueDragRespectsTrackingAndSublimit()

@@ -42,9 +42,13 @@ QModelIndex VNGroupableComboBox::addGroupItem(const QString& text, const QModelI
     if (!parentItem)
         return QModelIndex();
     parentItem->appendRow(item);
-    // A group is only a heading once it has children.
-    if (parent.isValid())
+    // A group is only a heading once it has children: shown bold, it can be opened but not chosen.
+    if (parent.isValid()) {
         parentItem->setFlags(Qt::ItemIsEnabled);
+        QFont font = parentItem->font();
+        font.setBold(true);
+        parentItem->setFont(font);
+    }
     return item->index();
 }
 
