@@ -69,9 +69,12 @@ private slots:
     void unitComboParsesUnits();
     void degreeSpecialValues_data();
     void degreeSpecialValues();
+    void degreeFieldSelectsAllOnFocus();
     void groupableStartsAtSecondChildOfGroup2();
     void groupablePopupCollapsesAndSelects();
     void filterComboFiltersWhileTyping();
+    void launcherOpensEachDialogOnce_data();
+    void launcherOpensEachDialogOnce();
     void loupeMovesIntoComboBoxTest();
     void comboBoxBeforeLoupeLeavesNoLoupe();
 };
@@ -368,6 +371,20 @@ void ComboBoxTest::degreeSpecialValues()
     QCOMPARE(degrees->specialValueId(), index < 3 ? index : -1);
 }
 
+void ComboBoxTest::degreeFieldSelectsAllOnFocus()
+{
+    TestComboBox dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QApplication::setActiveWindow(&dialog);
+    auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
+    degrees->setFocus();
+    QTRY_COMPARE(degrees->lineEdit()->selectedText(), QString("Automatic Direction"));
+    QTest::keyClicks(degrees->lineEdit(), "45");
+    QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), degrees->formatter()->textFromValue(45, false));
+    QVERIFY(child<QLabel>(&dialog, "comboOutput")->text().startsWith("45"));
+}
+
 void ComboBoxTest::groupableStartsAtSecondChildOfGroup2()
 {
     TestComboBox dialog(nullptr);
@@ -417,8 +434,9 @@ void ComboBoxTest::filterComboFiltersWhileTyping()
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     auto* filter = dialog.findChild<VNFilterComboBox*>();
+    QApplication::setActiveWindow(&dialog);
     filter->setFocus();
-    filter->lineEdit()->clear();
+    QTRY_COMPARE(filter->lineEdit()->selectedText(), QString("Entry 1"));
     QTest::keyClicks(filter->lineEdit(), "ENTR");
     QCompleter* completer = filter->filterCompleter();
     QCOMPARE(completer->completionCount(), 2);
@@ -430,6 +448,42 @@ void ComboBoxTest::filterComboFiltersWhileTyping()
     QTest::keyClick(completer->popup(), Qt::Key_Down);
     QTest::keyClick(completer->popup(), Qt::Key_Return);
     QCOMPARE(filter->currentIndex(), 0);
+}
+
+void ComboBoxTest::launcherOpensEachDialogOnce_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("className");
+    QTest::newRow("slider view") << "testVnSlider"
+                                 << "TestVNSliderView";
+    QTest::newRow("combo box") << "testComboBox"
+                               << "TestComboBox";
+    QTest::newRow("curve input control") << "testCurveInputControl"
+                                         << "TestCurveInputControl";
+}
+
+void ComboBoxTest::launcherOpensEachDialogOnce()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, className);
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.show();
+    const auto opened = [&] {
+        QList<QWidget*> found;
+        for (QWidget* window : panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (window->isWindow() && className == QLatin1String(window->metaObject()->className()))
+                found << window;
+        }
+        return found;
+    };
+    panel.findChild<QPushButton*>(button)->click();
+    QCOMPARE(opened().size(), 1);
+    QWidget* dialog = opened().first();
+    QVERIFY(dialog->isVisible());
+    dialog->close();
+    panel.findChild<QPushButton*>(button)->click();
+    QCOMPARE(opened(), QList<QWidget*>({dialog}));
+    QVERIFY(dialog->isVisible());
 }
 
 void ComboBoxTest::loupeMovesIntoComboBoxTest()

@@ -2,7 +2,6 @@
 
 #include "VNFormatter.h"
 
-#include <QEvent>
 #include <QLineEdit>
 #include <QTimer>
 
@@ -12,7 +11,6 @@ VNComboBoxDoubleInput::VNComboBoxDoubleInput(QWidget* parent)
 {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
-    lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, &VNComboBoxDoubleInput::onTextEdited);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &VNComboBoxDoubleInput::showTypedValue);
     connect(this, QOverload<int>::of(&QComboBox::activated), this, &VNComboBoxDoubleInput::onActivated);
@@ -58,12 +56,13 @@ void VNComboBoxDoubleInput::setSelectAllOnFocusIn(bool selectAll)
     m_selectAllOnFocusIn = selectAll;
 }
 
-bool VNComboBoxDoubleInput::eventFilter(QObject* watched, QEvent* event)
+// The combo box takes the focus for its line edit. Selecting at once would be undone by the click
+// that gave the focus.
+void VNComboBoxDoubleInput::focusInEvent(QFocusEvent* event)
 {
-    // Selecting at once would be undone by the click that gave the focus.
-    if (m_selectAllOnFocusIn && watched == lineEdit() && event->type() == QEvent::FocusIn)
+    VNComboBox::focusInEvent(event);
+    if (m_selectAllOnFocusIn)
         QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
-    return VNComboBox::eventFilter(watched, event);
 }
 
 void VNComboBoxDoubleInput::onTextEdited(const QString& text)

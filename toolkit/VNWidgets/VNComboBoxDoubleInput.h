@@ -37,7 +37,7 @@ signals:
     void doubleInputTextEdited(double value);
 
 protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     void onTextEdited(const QString& text);

@@ -3,6 +3,7 @@
 #include <QCompleter>
 #include <QLineEdit>
 #include <QListView>
+#include <QTimer>
 
 VNFilterComboBox::VNFilterComboBox(QWidget* parent)
     : VNComboBox(parent)
@@ -23,6 +24,15 @@ VNFilterComboBox::VNFilterComboBox(QWidget* parent)
     }
     setCompleter(m_completer);
     connect(m_completer, QOverload<const QString&>::of(&QCompleter::activated), this, &VNFilterComboBox::chooseText);
+}
+
+// Entering the field selects its text, so the first key typed starts a new filter. The combo box
+// takes the focus for its line edit, so the focus arrives here. Selecting at once would be undone
+// by the click that gave the focus.
+void VNFilterComboBox::focusInEvent(QFocusEvent* event)
+{
+    VNComboBox::focusInEvent(event);
+    QTimer::singleShot(0, lineEdit(), &QLineEdit::selectAll);
 }
 
 void VNFilterComboBox::chooseText(const QString& text)
