@@ -288,8 +288,9 @@ void ComboBoxTest::statusListShowsCurrentStatus()
 void ComboBoxTest::statusBarInPopup()
 {
     VNComboBox combo;
-    combo.addItems({"plain", "missing"});
+    combo.addItems({"plain", "missing", "standard changed"});
     combo.setItemWidgetStatus(1, VNWidgetStatus::needInput);
+    combo.setItemWidgetStatus(2, VNWidgetStatus::standardChanged);
     combo.resize(200, 30);
     combo.show();
     combo.showPopup();
@@ -298,10 +299,11 @@ void ComboBoxTest::statusBarInPopup()
     const QImage image = view->viewport()->grab().toImage();
     const QRect plain = view->visualRect(view->model()->index(0, 0));
     const QRect missing = view->visualRect(view->model()->index(1, 0));
-    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()),
-             VNComboBox::statusColor(VNWidgetStatus::needInput));
-    QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) !=
-            VNComboBox::statusColor(VNWidgetStatus::needInput));
+    const QRect changed = view->visualRect(view->model()->index(2, 0));
+    // The frame colours of the style's need-input and standard-changed looks.
+    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()), QColor(0xd3, 0x2f, 0x2f));
+    QCOMPARE(image.pixelColor(changed.left() + 2, changed.center().y()), QColor(0xe0, 0x7b, 0x00));
+    QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) != QColor(0xd3, 0x2f, 0x2f));
     combo.hidePopup();
 }
 

@@ -117,22 +117,28 @@ void VNComboBox::takeStatusOfCurrent()
     VNWidgetStatus::setStatusProperty(this, status);
 }
 
+// The frame colours of the status looks in the toolkit style, so an item's bar matches the look
+// the box takes when that item becomes current.
 QColor VNComboBox::statusColor(VNWidgetStatus::StatusFlags status)
 {
     switch (VNWidgetStatus::getDominantStatusFromFlag(status)) {
     case VNWidgetStatus::needInput:
         return QColor(0xd3, 0x2f, 0x2f);
     case VNWidgetStatus::compareDifferent:
-        return QColor(0xe0, 0x8a, 0x00);
+        return QColor(0xe0, 0x12, 0x9a);
     case VNWidgetStatus::different:
-        return QColor(0x8e, 0x44, 0xad);
+        return QColor(0xc9, 0xa4, 0x00);
     case VNWidgetStatus::standardDeviate:
-        return QColor(0x1e, 0x88, 0xe5);
+        return QColor(0xe0, 0x7b, 0x00);
+    case VNWidgetStatus::standardLocked:
+        return QColor(0x7a, 0x7a, 0x7a);
     case VNWidgetStatus::standardDefined:
     case VNWidgetStatus::standardEnabled:
-        return QColor(0x2e, 0x7d, 0x32);
+    case VNWidgetStatus::standardDefault:
+    case VNWidgetStatus::standardDefaultChanged:
+        return QColor(0x4c, 0x9a, 0x4c);
     case VNWidgetStatus::userEdit:
-        return QColor(0x3d, 0x7e, 0xc9);
+        return QColor(0x3d, 0x7c, 0xc9);
     case VNWidgetStatus::undef:
         return QColor();
     default:
