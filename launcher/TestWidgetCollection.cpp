@@ -4,9 +4,12 @@
 #include "QtTraining.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
+#include "TestComboBox.h"
+#include "TestCurveInputControl.h"
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
+#include "TestVNSliderView.h"
 #include "TestValueFields.h"
 #include "TestVirtualSlider.h"
 #include "TestVisualizePointsControl.h"
@@ -133,7 +136,20 @@ void TestWidgetCollection::on_testPathShortener_clicked()
     showCached(m_testStringReducer, this);
 }
 
-void TestWidgetCollection::on_testComboBox_clicked() {}
+// The combo box test takes the loupe along, if there is one, every time it is opened. Moving a
+// widget hides it, so a loupe that was on screen is shown again in its new window.
+void TestWidgetCollection::on_testComboBox_clicked()
+{
+    if (!m_testComboBox)
+        m_testComboBox = new TestComboBox(this);
+    if (m_loupe) {
+        const bool loupeShown = m_loupe->isVisible();
+        m_loupe->setParent(m_testComboBox);
+        if (loupeShown)
+            m_loupe->show();
+    }
+    m_testComboBox->show();
+}
 
 void TestWidgetCollection::on_testValueFields_clicked()
 {
@@ -181,11 +197,17 @@ void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
 
 void TestWidgetCollection::on_testDisclosure_clicked() {}
 
-void TestWidgetCollection::on_testVnSlider_clicked() {}
+void TestWidgetCollection::on_testVnSlider_clicked()
+{
+    showCached(m_testSliderView, this);
+}
 
 void TestWidgetCollection::on_testVNAdvancedMenu_clicked() {}
 
-void TestWidgetCollection::on_testCurveInputControl_clicked() {}
+void TestWidgetCollection::on_testCurveInputControl_clicked()
+{
+    showCached(m_testCurveInputControl, this);
+}
 
 void TestWidgetCollection::on_testInfoArea_clicked() {}
 

@@ -1,0 +1,520 @@
+#include "Loupe.h"
+#include "TestComboBox.h"
+#include "TestWidgetCollection.h"
+
+#include <VNComboBox.h>
+#include <VNComboBoxDoubleInput.h>
+#include <VNFilterComboBox.h>
+#include <VNFormatter.h>
+#include <VNGroupableComboBox.h>
+#include <VNValueEdit.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCompleter>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeView>
+
+namespace {
+const QStringList standardItems{"Entry 1", "A longer Entry 2", "New Item", "3"};
+
+QStringList texts(const QComboBox* combo)
+{
+    QStringList result;
+    for (int i = 0; i < combo->count(); ++i)
+        result << combo->itemText(i);
+    return result;
+}
+
+template<typename T = QComboBox>
+T* child(QWidget* dialog, const char* name)
+{
+    T* found = dialog->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qFatal("missing %s", name);
+    return found;
+}
+
+void click(QWidget* dialog, const char* button)
+{
+    child<QPushButton>(dialog, button)->click();
+}
+} // namespace
+
+class ComboBoxTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void form_data();
+    void form();
+    void standardItemsAndIcons();
+    void filterComboBoxBelowTheGrid();
+    void addEntryUsesDefaultAndCurrentStatus();
+    void bulkButtonsLeaveNumberComboAlone();
+    void restoreRefillsEverything();
+    void styleRadios_data();
+    void styleRadios();
+    void statusListShowsCurrentStatus_data();
+    void statusListShowsCurrentStatus();
+    void statusBarInPopup();
+    void numberComboItems();
+    void unitComboParsesUnits_data();
+    void unitComboParsesUnits();
+    void degreeSpecialValues_data();
+    void degreeSpecialValues();
+    void degreeFieldSelectsAllOnFocus();
+    void groupableStartsAtSecondChildOfGroup2();
+    void groupablePopupCollapsesAndSelects();
+    void filterComboFiltersWhileTyping();
+    void launcherOpensEachDialogOnce_data();
+    void launcherOpensEachDialogOnce();
+    void loupeMovesIntoComboBoxTest();
+    void comboBoxBeforeLoupeLeavesNoLoupe();
+};
+
+void ComboBoxTest::cleanup()
+{
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void ComboBoxTest::form_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QString>("text");
+    const QList<std::tuple<const char*, const char*, const char*>> rows = {
+        {"label", "QLabel", "QComboBox"},
+        {"label_2", "QLabel", "VNComboBox"},
+        {"label_3", "QLabel", "editable VNComboBox"},
+        {"label_4", "QLabel", "sizehint fixed VNCombo"},
+        {"label_5", "QLabel", "sizehint fixed QCombo"},
+        {"add", "QPushButton", "Add Entry"},
+        {"deleteCurrent", "QPushButton", "Delete Current"},
+        {"deleteAll", "QPushButton", "Delete All"},
+        {"restore", "QPushButton", "Restore"},
+        {"addSeparator", "QPushButton", "Add Separator"},
+        {"radioIcon", "QRadioButton", "IconOnly"},
+        {"radioText", "QRadioButton", "TextOnly"},
+        {"radioIconText", "QRadioButton", "Icon & Text"},
+        {"vnLabel_4", "VNLabel", "VNComboBox observeItemsForWidgetStatus"},
+        {"vnLabel", "VNLabel", "DoubleComboBox"},
+        {"vnLabel_2", "VNLabel", "Double ComboBox with Unit"},
+        {"vnLabel_3", "VNLabel", "VNGroupableComboBox"},
+        {"comboOutput", "QLabel", "TextLabel"},
+        {"itemText", "QLineEdit", "default"},
+        {"comboBox", "QComboBox", ""},
+        {"comboBox_2", "QComboBox", ""},
+        {"comboBox_6", "QComboBox", ""},
+        {"comboBox_3", "VNComboBox", ""},
+        {"comboBox_9", "VNComboBox", ""},
+        {"comboBox_15", "VNComboBox", ""},
+        {"m_widgetStatusCB", "VNComboBox", ""},
+        {"m_widgetStatusCB_2", "VNComboBox", ""},
+        {"vnDoubleComboBox", "VNComboBox", ""},
+        {"vnUnitComboBox", "VNComboBoxDoubleInput", ""},
+        {"comboDeg", "VNComboBoxDoubleInput", ""},
+        {"groupableCB", "VNGroupableComboBox", ""},
+    };
+    for (const auto& row : rows)
+        QTest::newRow(std::get<0>(row)) << std::get<0>(row) << std::get<1>(row) << std::get<2>(row);
+}
+
+void ComboBoxTest::form()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, className);
+    QFETCH(QString, text);
+    TestComboBox dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QString("TestComboBoxClass"));
+    QCOMPARE(dialog.windowTitle(), QString("TestComboBox"));
+    QWidget* widget = dialog.findChild<QWidget*>(name);
+    QVERIFY(widget);
+    QCOMPARE(QString(widget->metaObject()->className()), className);
+    const QVariant shown = widget->property("text");
+    if (shown.isValid())
+        QCOMPARE(shown.toString(), text);
+}
+
+void ComboBoxTest::standardItemsAndIcons()
+{
+    TestComboBox dialog(nullptr);
+    for (const char* name : {"comboBox", "comboBox_2", "comboBox_4", "comboBox_9", "comboBox_14", "comboBox_15"})
+        QCOMPARE(texts(child(&dialog, name)), standardItems);
+    auto* withIcons = child(&dialog, "comboBox_3");
+    QVERIFY(!withIcons->itemIcon(0).pixmap(16).isNull());
+    QVERIFY(!withIcons->itemIcon(1).pixmap(16).isNull());
+    QVERIFY(withIcons->itemIcon(2).isNull());
+    QVERIFY(child(&dialog, "comboBox_4")->itemIcon(0).isNull());
+    auto* nine = child<VNComboBox>(&dialog, "comboBox_9");
+    QVERIFY(nine->isUserEditStatus());
+    QCOMPARE(nine->property("statusLook").toString(), QString("userEdit"));
+    QCOMPARE(nine->iconSize(), QSize(14, 14));
+    auto* empty = child<VNComboBox>(&dialog, "m_widgetStatusCB_2");
+    QCOMPARE(empty->count(), 0);
+    QVERIFY(empty->isNeedInputStatus());
+    QCOMPARE(empty->property("statusLook").toString(), QString("needInput"));
+    click(&dialog, "add");
+    QCOMPARE(empty->property("statusLook").toString(), QString("undef"));
+}
+
+void ComboBoxTest::filterComboBoxBelowTheGrid()
+{
+    TestComboBox dialog(nullptr);
+    auto* filter = dialog.findChild<VNFilterComboBox*>();
+    QVERIFY(filter);
+    QCOMPARE(texts(filter), standardItems);
+    QVERIFY(!filter->itemIcon(0).isNull());
+    auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
+    int row = -1, column = -1, rowSpan = 0, columnSpan = 0;
+    grid->getItemPosition(grid->indexOf(filter), &row, &column, &rowSpan, &columnSpan);
+    QCOMPARE(row, 14);
+    QCOMPARE(column, 0);
+}
+
+void ComboBoxTest::addEntryUsesDefaultAndCurrentStatus()
+{
+    TestComboBox dialog(nullptr);
+    child<QLineEdit>(&dialog, "itemText")->clear();
+    child(&dialog, "m_widgetStatusCB")->setCurrentIndex(1);
+    click(&dialog, "add");
+    for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
+        if (combo->objectName() == QLatin1String("vnDoubleComboBox"))
+            continue;
+        QCOMPARE(combo->itemText(combo->count() - 1), QString("default"));
+        if (auto* vnCombo = qobject_cast<VNComboBox*>(combo))
+            QCOMPARE(int(vnCombo->itemWidgetStatus(vnCombo->count() - 1)), 0x20);
+    }
+    child<QLineEdit>(&dialog, "itemText")->setText("Typed");
+    click(&dialog, "add");
+    QCOMPARE(child(&dialog, "comboBox_6")->itemText(5), QString("Typed"));
+}
+
+void ComboBoxTest::bulkButtonsLeaveNumberComboAlone()
+{
+    TestComboBox dialog(nullptr);
+    auto* numbers = child<VNComboBox>(&dialog, "vnDoubleComboBox");
+    const QStringList before = texts(numbers);
+    QCOMPARE(before.size(), 5);
+    for (const char* button : {"add", "addSeparator", "deleteCurrent", "deleteAll", "restore", "add"})
+        click(&dialog, button);
+    child<QRadioButton>(&dialog, "radioText")->click();
+    QCOMPARE(texts(numbers), before);
+    QCOMPARE(numbers->comboBoxStyle(), VNComboBox::IconAndText);
+}
+
+void ComboBoxTest::restoreRefillsEverything()
+{
+    TestComboBox dialog(nullptr);
+    click(&dialog, "deleteAll");
+    QCOMPARE(child(&dialog, "comboBox_2")->count(), 0);
+    QCOMPARE(child(&dialog, "groupableCB")->count(), 0);
+    click(&dialog, "addSeparator");
+    click(&dialog, "restore");
+    for (const char* name : {"comboDeg", "vnUnitComboBox", "comboBox_2", "comboBox_10"})
+        QCOMPARE(texts(child(&dialog, name)), standardItems);
+    QCOMPARE(texts(dialog.findChild<VNFilterComboBox*>()), standardItems);
+    QCOMPARE(child(&dialog, "m_widgetStatusCB")->count(), 7);
+    QCOMPARE(child(&dialog, "m_widgetStatusCB_2")->count(), 0);
+    auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
+    QCOMPARE(groups->count(), 3);
+    QCOMPARE(groups->currentText(), QString("Child 12"));
+}
+
+void ComboBoxTest::styleRadios_data()
+{
+    QTest::addColumn<QString>("radio");
+    QTest::addColumn<int>("style");
+    QTest::newRow("icon only") << "radioIcon" << 0;
+    QTest::newRow("text only") << "radioText" << 1;
+}
+
+void ComboBoxTest::styleRadios()
+{
+    QFETCH(QString, radio);
+    QFETCH(int, style);
+    TestComboBox dialog(nullptr);
+    dialog.show();
+    auto* combo = child<VNComboBox>(&dialog, "comboBox_3");
+    const QImage before = combo->grab().toImage();
+    dialog.findChild<QRadioButton*>(radio)->click();
+    for (VNComboBox* vnCombo : dialog.findChildren<VNComboBox*>()) {
+        if (vnCombo->objectName() != QLatin1String("vnDoubleComboBox"))
+            QCOMPARE(int(vnCombo->comboBoxStyle()), style);
+    }
+    QVERIFY(combo->grab().toImage() != before);
+    child<QRadioButton>(&dialog, "radioIconText")->click();
+    QCOMPARE(combo->comboBoxStyle(), VNComboBox::IconAndText);
+    QCOMPARE(combo->grab().toImage(), before);
+}
+
+void ComboBoxTest::statusListShowsCurrentStatus_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("look");
+    QTest::newRow("undef") << 0 << "undef" << 0 << "undef";
+    QTest::newRow("needInput") << 1 << "needInput" << 0x20 << "needInput";
+    QTest::newRow("userEdit") << 2 << "userEdit" << 0x2 << "userEdit";
+    QTest::newRow("compareDifferent") << 3 << "compareDifferent" << 0x800 << "undef";
+    QTest::newRow("different") << 4 << "different" << 0x400 << "different";
+    QTest::newRow("standardDefined") << 5 << "standardDefined" << 0x2000 << "standardDefined";
+    QTest::newRow("standardChanged") << 6 << "standardChanged" << 0x12000 << "standardChanged";
+}
+
+void ComboBoxTest::statusListShowsCurrentStatus()
+{
+    QFETCH(int, index);
+    QFETCH(QString, text);
+    QFETCH(int, status);
+    QFETCH(QString, look);
+    TestComboBox dialog(nullptr);
+    auto* combo = child<VNComboBox>(&dialog, "m_widgetStatusCB");
+    combo->setCurrentIndex(index);
+    QCOMPARE(combo->currentText(), text);
+    QCOMPARE(int(combo->getWidgetStatusOfCurrent()), status);
+    QCOMPARE(int(combo->getWidgetStatus()), status);
+    QCOMPARE(combo->property("statusLook").toString(), look);
+    QCOMPARE(combo->property("compareDiffers").toBool(), status == 0x800);
+}
+
+void ComboBoxTest::statusBarInPopup()
+{
+    VNComboBox combo;
+    combo.addItems({"plain", "missing", "standard changed"});
+    combo.setItemWidgetStatus(1, VNWidgetStatus::needInput);
+    combo.setItemWidgetStatus(2, VNWidgetStatus::standardChanged);
+    combo.resize(200, 30);
+    combo.show();
+    combo.showPopup();
+    QAbstractItemView* view = combo.view();
+    QTRY_VERIFY(view->isVisible());
+    const QImage image = view->viewport()->grab().toImage();
+    const QRect plain = view->visualRect(view->model()->index(0, 0));
+    const QRect missing = view->visualRect(view->model()->index(1, 0));
+    const QRect changed = view->visualRect(view->model()->index(2, 0));
+    // The frame colours of the style's need-input and standard-changed looks.
+    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()), QColor(0xd3, 0x2f, 0x2f));
+    QCOMPARE(image.pixelColor(changed.left() + 2, changed.center().y()), QColor(0xe0, 0x7b, 0x00));
+    QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) != QColor(0xd3, 0x2f, 0x2f));
+    combo.hidePopup();
+}
+
+void ComboBoxTest::numberComboItems()
+{
+    TestComboBox dialog(nullptr);
+    auto* numbers = child<VNComboBox>(&dialog, "vnDoubleComboBox");
+    QVERIFY(qobject_cast<VNValueEdit*>(numbers->lineEdit()));
+    QCOMPARE(numbers->insertPolicy(), QComboBox::NoInsert);
+    VNFormatter plain;
+    QStringList expected;
+    for (double value : {0.1, 0.2, 0.5, 1.0, 10.0})
+        expected << plain.textFromValue(value, false);
+    QCOMPARE(texts(numbers), expected);
+    QCOMPARE(expected.at(2).toDouble(), 0.5);
+    auto* millimetres = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
+    QCOMPARE(millimetres->count(), 4);
+    QVERIFY(millimetres->itemText(2).endsWith("mm"));
+    QCOMPARE(millimetres->formatter()->valueFromText(millimetres->itemText(2)), 25.0);
+}
+
+void ComboBoxTest::unitComboParsesUnits_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<double>("millimetres");
+    QTest::newRow("plain number") << "12" << 12.0;
+    QTest::newRow("centimetres") << "2 cm" << 20.0;
+    QTest::newRow("metres") << "0.5m" << 500.0;
+}
+
+void ComboBoxTest::unitComboParsesUnits()
+{
+    QFETCH(QString, typed);
+    QFETCH(double, millimetres);
+    TestComboBox dialog(nullptr);
+    auto* combo = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
+    QSignalSpy spy(combo, &VNComboBoxDoubleInput::doubleInputTextEdited);
+    combo->lineEdit()->clear();
+    QTest::keyClicks(combo->lineEdit(), typed);
+    QVERIFY(!spy.isEmpty());
+    QCOMPARE(spy.last().first().toDouble(), millimetres);
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+    QCOMPARE(combo->value(), millimetres);
+}
+
+void ComboBoxTest::degreeSpecialValues_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("output");
+    QTest::newRow("automatic") << 0 << "Auto";
+    QTest::newRow("x") << 1 << "X";
+    QTest::newRow("y") << 2 << "Y";
+    QTest::newRow("added entry") << 3 << "??";
+}
+
+void ComboBoxTest::degreeSpecialValues()
+{
+    QFETCH(int, index);
+    QFETCH(QString, output);
+    TestComboBox dialog(nullptr);
+    auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
+    QCOMPARE(texts(degrees), QStringList({"Automatic Direction", "X", "Y"}));
+    click(&dialog, "add");
+    degrees->setCurrentIndex(index);
+    emit degrees->activated(index);
+    QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), output);
+    QCOMPARE(degrees->specialValueId(), index < 3 ? index : -1);
+}
+
+void ComboBoxTest::degreeFieldSelectsAllOnFocus()
+{
+    TestComboBox dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QApplication::setActiveWindow(&dialog);
+    auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
+    degrees->setFocus();
+    QTRY_COMPARE(degrees->lineEdit()->selectedText(), QString("Automatic Direction"));
+    QTest::keyClicks(degrees->lineEdit(), "45");
+    QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), degrees->formatter()->textFromValue(45, false));
+    QVERIFY(child<QLabel>(&dialog, "comboOutput")->text().startsWith("45"));
+}
+
+void ComboBoxTest::groupableStartsAtSecondChildOfGroup2()
+{
+    TestComboBox dialog(nullptr);
+    auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
+    QCOMPARE(groups->currentText(), QString("Child 12"));
+    QCOMPARE(groups->currentTopLevelRow(), 2);
+    QCOMPARE(groups->currentChildRow(), 1);
+    QCOMPARE(groups->currentData().toInt(), 1);
+    QAbstractItemModel* model = groups->model();
+    QCOMPARE(model->rowCount(), 3);
+    QCOMPARE(model->rowCount(model->index(0, 0)), 5);
+    QCOMPARE(model->index(4, 0, model->index(0, 0)).data().toString(), QString("Child 05"));
+    QCOMPARE(model->rowCount(model->index(1, 0)), 0);
+    QCOMPARE(model->index(3, 0, model->index(2, 0)).data(Qt::UserRole).toInt(), 3);
+}
+
+void ComboBoxTest::groupablePopupCollapsesAndSelects()
+{
+    TestComboBox dialog(nullptr);
+    dialog.show();
+    auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
+    QSignalSpy spy(groups, &VNGroupableComboBox::currentGroupIndexChanged);
+    groups->showPopup();
+    QTreeView* tree = groups->treeView();
+    QTRY_VERIFY(tree->isVisible());
+    const QModelIndex group1 = groups->model()->index(0, 0);
+    QVERIFY(tree->isExpanded(group1));
+    QVERIFY(tree->window()->height() >= 12 * tree->sizeHintForRow(0));
+
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(group1).center());
+    QVERIFY(!tree->isExpanded(group1));
+    QVERIFY(tree->isVisible());
+    QCOMPARE(spy.count(), 0);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(group1).center());
+    QVERIFY(tree->isExpanded(group1));
+
+    const QModelIndex child03 = groups->model()->index(2, 0, group1);
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(child03).center());
+    QTRY_VERIFY(!tree->isVisible());
+    QCOMPARE(groups->currentText(), QString("Child 03"));
+    QCOMPARE(spy.last(), QList<QVariant>({0, 2}));
+}
+
+void ComboBoxTest::filterComboFiltersWhileTyping()
+{
+    TestComboBox dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* filter = dialog.findChild<VNFilterComboBox*>();
+    QApplication::setActiveWindow(&dialog);
+    filter->setFocus();
+    QTRY_COMPARE(filter->lineEdit()->selectedText(), QString("Entry 1"));
+    QTest::keyClicks(filter->lineEdit(), "ENTR");
+    QCompleter* completer = filter->filterCompleter();
+    QCOMPARE(completer->completionCount(), 2);
+    QTRY_VERIFY(completer->popup()->isVisible());
+    QTest::keyClick(filter->lineEdit(), Qt::Key_Backspace);
+    QTest::keyClicks(filter->lineEdit(), "ry 1");
+    QCOMPARE(completer->completionCount(), 1);
+    QCOMPARE(completer->currentCompletion(), QString("Entry 1"));
+    QTest::keyClick(completer->popup(), Qt::Key_Down);
+    QTest::keyClick(completer->popup(), Qt::Key_Return);
+    QCOMPARE(filter->currentIndex(), 0);
+}
+
+void ComboBoxTest::launcherOpensEachDialogOnce_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("className");
+    QTest::newRow("slider view") << "testVnSlider"
+                                 << "TestVNSliderView";
+    QTest::newRow("combo box") << "testComboBox"
+                               << "TestComboBox";
+    QTest::newRow("curve input control") << "testCurveInputControl"
+                                         << "TestCurveInputControl";
+}
+
+void ComboBoxTest::launcherOpensEachDialogOnce()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, className);
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.show();
+    const auto opened = [&] {
+        QList<QWidget*> found;
+        for (QWidget* window : panel.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (window->isWindow() && className == QLatin1String(window->metaObject()->className()))
+                found << window;
+        }
+        return found;
+    };
+    panel.findChild<QPushButton*>(button)->click();
+    QCOMPARE(opened().size(), 1);
+    QWidget* dialog = opened().first();
+    QVERIFY(dialog->isVisible());
+    dialog->close();
+    panel.findChild<QPushButton*>(button)->click();
+    QCOMPARE(opened(), QList<QWidget*>({dialog}));
+    QVERIFY(dialog->isVisible());
+}
+
+void ComboBoxTest::loupeMovesIntoComboBoxTest()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.show();
+    panel.findChild<QPushButton*>("loupe")->click();
+    auto* loupe = panel.findChild<Loupe*>();
+    QCOMPARE(loupe->parentWidget(), &panel);
+    panel.findChild<QPushButton*>("testComboBox")->click();
+    auto* comboTest = panel.findChild<TestComboBox*>();
+    QCOMPARE(loupe->parentWidget(), comboTest);
+    QVERIFY(loupe->isVisible());
+    comboTest->close();
+    panel.findChild<QPushButton*>("testComboBox")->click();
+    QCOMPARE(panel.findChildren<TestComboBox*>().size(), 1);
+    QCOMPARE(loupe->parentWidget(), comboTest);
+    QCOMPARE(panel.findChildren<Loupe*>().size(), 1);
+}
+
+void ComboBoxTest::comboBoxBeforeLoupeLeavesNoLoupe()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    panel.show();
+    panel.findChild<QPushButton*>("testComboBox")->click();
+    QVERIFY(!panel.findChild<Loupe*>());
+    panel.findChild<QPushButton*>("loupe")->click();
+    QCOMPARE(panel.findChild<Loupe*>()->parentWidget(), panel.findChild<TestComboBox*>());
+}
+
+QTEST_MAIN(ComboBoxTest)
+#include "tst_combobox.moc"

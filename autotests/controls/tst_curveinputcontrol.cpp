@@ -1,0 +1,214 @@
+#include "TestCurveInputControl.h"
+
+#include <VNCurveInputControl.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMenu>
+#include <QMetaEnum>
+#include <QRadioButton>
+#include <QTest>
+
+namespace {
+const QStringList optionKeys{"NoOption", "Sketch", "PickPoints", "Coordinates", "Formula", "ImportFile"};
+
+template<typename T>
+QList<T*> column(QWidget* dialog, const char* container)
+{
+    return dialog->findChild<QWidget*>(QLatin1String(container))
+        ->findChildren<T*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+template<typename T>
+T* optionButton(QWidget* dialog, const char* container, const QString& key)
+{
+    for (T* button : column<T>(dialog, container)) {
+        if (button->text() == key)
+            return button;
+    }
+    qFatal("no option button");
+    return nullptr;
+}
+
+QStringList menuTexts(VNCurveInputControl* control)
+{
+    QStringList texts;
+    for (QAction* action : control->menu()->actions())
+        texts << action->text();
+    return texts;
+}
+} // namespace
+
+class CurveInputControlTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void form();
+    void optionButtonsFollowTheEnum();
+    void initialChecks_data();
+    void initialChecks();
+    void availableTogglesMenuEntries();
+    void enabledTogglesMenuEntries();
+    void zeroOptionOnlyForEmptySet();
+    void defaultRadioRenamesButton();
+    void uncheckingDefaultKeepsIt();
+    void inputTypeChangesIcon();
+    void enableCheckbox();
+};
+
+void CurveInputControlTest::cleanup()
+{
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void CurveInputControlTest::form()
+{
+    TestCurveInputControl dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QString("TestCurveInputControlClass"));
+    QCOMPARE(dialog.windowTitle(), QString("Form"));
+    QVERIFY(dialog.findChild<VNCurveInputControl*>("vnCurveInputControl"));
+    QCOMPARE(dialog.findChild<QCheckBox*>("enableCheckbox")->text(), QString("Enabled"));
+    auto* types = dialog.findChild<QComboBox*>("inputTypeCombo");
+    QCOMPARE(types->count(), 3);
+    QCOMPARE(types->itemText(0), QString("Line"));
+    QCOMPARE(types->itemText(1), QString("Point"));
+    QCOMPARE(types->itemText(2), QString("Generic"));
+    QCOMPARE(dialog.findChild<QLabel*>("label_14")->text(), QString("Available"));
+    QCOMPARE(dialog.findChild<QLabel*>("label_15")->text(), QString("Enabled"));
+    QCOMPARE(dialog.findChild<QLabel*>("label_16")->text(), QString("Default"));
+}
+
+void CurveInputControlTest::optionButtonsFollowTheEnum()
+{
+    TestCurveInputControl dialog(nullptr);
+    const auto keys = [](const auto& buttons) {
+        QStringList texts;
+        for (auto* button : buttons)
+            texts << button->text();
+        return texts;
+    };
+    QCOMPARE(keys(column<QCheckBox>(&dialog, "widgetA")), optionKeys);
+    QCOMPARE(keys(column<QCheckBox>(&dialog, "widgetE")), optionKeys);
+    QCOMPARE(keys(column<QRadioButton>(&dialog, "widgetD")), optionKeys);
+    const QMetaEnum options = VNCurveInputControl::staticMetaObject.enumerator(
+        VNCurveInputControl::staticMetaObject.indexOfEnumerator("Option"));
+    QCOMPARE(options.keyCount(), optionKeys.size());
+}
+
+void CurveInputControlTest::initialChecks_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<bool>("available");
+    QTest::addColumn<bool>("isDefault");
+    QTest::newRow("NoOption") << "NoOption" << false << false;
+    QTest::newRow("Sketch") << "Sketch" << true << true;
+    QTest::newRow("PickPoints") << "PickPoints" << true << false;
+    QTest::newRow("Coordinates") << "Coordinates" << true << false;
+    QTest::newRow("Formula") << "Formula" << false << false;
+    QTest::newRow("ImportFile") << "ImportFile" << false << false;
+}
+
+void CurveInputControlTest::initialChecks()
+{
+    QFETCH(QString, key);
+    QFETCH(bool, available);
+    QFETCH(bool, isDefault);
+    TestCurveInputControl dialog(nullptr);
+    QCOMPARE(optionButton<QCheckBox>(&dialog, "widgetA", key)->isChecked(), available);
+    QCOMPARE(optionButton<QCheckBox>(&dialog, "widgetE", key)->isChecked(), available);
+    QCOMPARE(optionButton<QRadioButton>(&dialog, "widgetD", key)->isChecked(), isDefault);
+    QVERIFY(dialog.findChild<QCheckBox*>("enableCheckbox")->isChecked());
+}
+
+void CurveInputControlTest::availableTogglesMenuEntries()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    QCOMPARE(menuTexts(control), QStringList({"Sketch", "Pick Points", "Coordinates"}));
+    optionButton<QCheckBox>(&dialog, "widgetA", "Formula")->setChecked(true);
+    optionButton<QCheckBox>(&dialog, "widgetA", "PickPoints")->setChecked(false);
+    QCOMPARE(int(control->getOptionsAvailable()),
+             int(VNCurveInputControl::Sketch | VNCurveInputControl::Coordinates | VNCurveInputControl::Formula));
+    QCOMPARE(menuTexts(control), QStringList({"Sketch", "Coordinates", "Formula"}));
+}
+
+void CurveInputControlTest::enabledTogglesMenuEntries()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    optionButton<QCheckBox>(&dialog, "widgetE", "Coordinates")->setChecked(false);
+    QVERIFY(!control->getOptionsEnabled().testFlag(VNCurveInputControl::Coordinates));
+    QVERIFY(!control->optionAction(VNCurveInputControl::Coordinates)->isEnabled());
+    QVERIFY(control->optionAction(VNCurveInputControl::Sketch)->isEnabled());
+}
+
+void CurveInputControlTest::zeroOptionOnlyForEmptySet()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    QVERIFY(!control->optionAction(VNCurveInputControl::NoOption));
+    for (const char* key : {"Sketch", "PickPoints", "Coordinates"})
+        optionButton<QCheckBox>(&dialog, "widgetA", key)->setChecked(false);
+    QCOMPARE(int(control->getOptionsAvailable()), 0);
+    QCOMPARE(menuTexts(control), QStringList({"No Input"}));
+    // The boxes are built once: the zero option's box does not follow later changes.
+    QVERIFY(!optionButton<QCheckBox>(&dialog, "widgetA", "NoOption")->isChecked());
+    // Checking the zero option sets no bit.
+    optionButton<QCheckBox>(&dialog, "widgetA", "NoOption")->setChecked(true);
+    QCOMPARE(int(control->getOptionsAvailable()), 0);
+}
+
+void CurveInputControlTest::defaultRadioRenamesButton()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    QCOMPARE(control->text(), QString("Sketch"));
+    optionButton<QRadioButton>(&dialog, "widgetD", "Coordinates")->click();
+    QCOMPARE(control->getDefaultOption(), VNCurveInputControl::Coordinates);
+    QCOMPARE(control->text(), QString("Coordinates"));
+    QVERIFY(control->optionAction(VNCurveInputControl::Coordinates)->isChecked());
+    QVERIFY(!control->optionAction(VNCurveInputControl::Sketch)->isChecked());
+}
+
+void CurveInputControlTest::uncheckingDefaultKeepsIt()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    optionButton<QCheckBox>(&dialog, "widgetE", "Sketch")->setChecked(false);
+    QCOMPARE(control->getDefaultOption(), VNCurveInputControl::Sketch);
+    QCOMPARE(control->property("defaultUsable").toBool(), false);
+    optionButton<QCheckBox>(&dialog, "widgetA", "Sketch")->setChecked(false);
+    QCOMPARE(control->getDefaultOption(), VNCurveInputControl::Sketch);
+}
+
+void CurveInputControlTest::inputTypeChangesIcon()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    auto* types = dialog.findChild<QComboBox*>("inputTypeCombo");
+    QList<QImage> icons;
+    for (int index = 0; index < 3; ++index) {
+        types->setCurrentIndex(index);
+        QCOMPARE(int(control->inputType()), index);
+        icons << control->icon().pixmap(16).toImage();
+    }
+    QVERIFY(icons.at(0) != icons.at(1));
+    QVERIFY(icons.at(1) != icons.at(2));
+    QVERIFY(icons.at(0) != icons.at(2));
+}
+
+void CurveInputControlTest::enableCheckbox()
+{
+    TestCurveInputControl dialog(nullptr);
+    auto* control = dialog.findChild<VNCurveInputControl*>();
+    dialog.findChild<QCheckBox*>("enableCheckbox")->setChecked(false);
+    QVERIFY(!control->isEnabled());
+    dialog.findChild<QCheckBox*>("enableCheckbox")->setChecked(true);
+    QVERIFY(control->isEnabled());
+}
+
+QTEST_MAIN(CurveInputControlTest)
+#include "tst_curveinputcontrol.moc"

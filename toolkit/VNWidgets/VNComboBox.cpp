@@ -1,0 +1,179 @@
+#include "VNComboBox.h"
+
+#include "VNComboBoxDelegate_p.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+namespace {
+const int statusBarWidth = 4;
+}
+
+VNComboBoxDelegate::VNComboBoxDelegate(VNComboBox* combo)
+    : QStyledItemDelegate(combo)
+    , m_combo(combo)
+{}
+
+bool VNComboBoxDelegate::isSeparator(const QModelIndex& index)
+{
+    return index.data(Qt::AccessibleDescriptionRole).toString() == QLatin1String("separator");
+}
+
+void VNComboBoxDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (m_combo->comboBoxStyle() == VNComboBox::TextOnly) {
+        option->icon = QIcon();
+        option->features &= ~QStyleOptionViewItem::HasDecoration;
+    } else if (m_combo->comboBoxStyle() == VNComboBox::IconOnly && !option->icon.isNull()) {
+        option->text.clear();
+        option->features &= ~QStyleOptionViewItem::HasDisplay;
+    }
+}
+
+void VNComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (isSeparator(index)) {
+        const int y = option.rect.center().y();
+        painter->setPen(option.palette.color(QPalette::Mid));
+        painter->drawLine(option.rect.left() + 4, y, option.rect.right() - 4, y);
+        return;
+    }
+    QStyleOptionViewItem shifted = option;
+    shifted.rect.adjust(statusBarWidth + 2, 0, 0, 0);
+    QStyledItemDelegate::paint(painter, shifted, index);
+    const QColor color =
+        VNComboBox::statusColor(VNWidgetStatus::StatusFlags(index.data(VNComboBox::WidgetStatusRole).toInt()));
+    if (color.isValid())
+        painter->fillRect(
+            QRect(option.rect.left() + 1, option.rect.top() + 2, statusBarWidth, option.rect.height() - 4), color);
+}
+
+QSize VNComboBoxDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    if (isSeparator(index))
+        return QSize(10, 7);
+    QSize size = QStyledItemDelegate::sizeHint(option, index);
+    size.rwidth() += statusBarWidth + 2;
+    return size;
+}
+
+VNComboBox::VNComboBox(QWidget* parent)
+    : QComboBox(parent)
+    , VNWidgetInterface(this)
+{
+    setItemDelegate(new VNComboBoxDelegate(this));
+}
+
+void VNComboBox::setComboBoxStyle(ComboStyle style)
+{
+    if (style == m_style)
+        return;
+    m_style = style;
+    updateGeometry();
+    update();
+    if (view())
+        view()->viewport()->update();
+}
+
+void VNComboBox::setItemWidgetStatus(const int& index, const QFlags<VNWidgetStatus::Status>& status)
+{
+    if (index < 0 || index >= count())
+        return;
+    setItemData(index, int(status), WidgetStatusRole);
+    if (m_observing && index == currentIndex())
+        takeStatusOfCurrent();
+}
+
+VNWidgetStatus::StatusFlags VNComboBox::itemWidgetStatus(int index) const
+{
+    return VNWidgetStatus::StatusFlags(itemData(index, WidgetStatusRole).toInt());
+}
+
+VNWidgetStatus::StatusFlags VNComboBox::getWidgetStatusOfCurrent() const
+{
+    return itemWidgetStatus(currentIndex());
+}
+
+void VNComboBox::observeItemsForWidgetStatus()
+{
+    if (!m_observing) {
+        m_observing = true;
+        m_ownStatus = getWidgetStatus();
+        connect(this, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &VNComboBox::takeStatusOfCurrent);
+        connect(model(), &QAbstractItemModel::dataChanged, this, &VNComboBox::takeStatusOfCurrent);
+    }
+    takeStatusOfCurrent();
+}
+
+// An observing box always publishes its look, "undef" included, so that it shows which item
+// status it follows. Without a current item it shows the status it had of its own.
+void VNComboBox::takeStatusOfCurrent()
+{
+    const VNWidgetStatus::StatusFlags status = currentIndex() < 0 ? m_ownStatus : getWidgetStatusOfCurrent();
+    setWidgetStatus(status);
+    VNWidgetStatus::setStatusProperty(this, status);
+}
+
+// The frame colours of the status looks in the toolkit style, so an item's bar matches the look
+// the box takes when that item becomes current.
+QColor VNComboBox::statusColor(VNWidgetStatus::StatusFlags status)
+{
+    switch (VNWidgetStatus::getDominantStatusFromFlag(status)) {
+    case VNWidgetStatus::needInput:
+        return QColor(0xd3, 0x2f, 0x2f);
+    case VNWidgetStatus::compareDifferent:
+        return QColor(0xe0, 0x12, 0x9a);
+    case VNWidgetStatus::different:
+        return QColor(0xc9, 0xa4, 0x00);
+    case VNWidgetStatus::standardDeviate:
+        return QColor(0xe0, 0x7b, 0x00);
+    case VNWidgetStatus::standardLocked:
+        return QColor(0x7a, 0x7a, 0x7a);
+    case VNWidgetStatus::standardDefined:
+    case VNWidgetStatus::standardEnabled:
+    case VNWidgetStatus::standardDefault:
+    case VNWidgetStatus::standardDefaultChanged:
+        return QColor(0x4c, 0x9a, 0x4c);
+    case VNWidgetStatus::userEdit:
+        return QColor(0x3d, 0x7c, 0xc9);
+    case VNWidgetStatus::undef:
+        return QColor();
+    default:
+        return QColor(0x75, 0x75, 0x75);
+    }
+}
+
+QSize VNComboBox::sizeHint() const
+{
+    QSize hint = QComboBox::sizeHint();
+    if (m_style == IconOnly && !isEditable()) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        option.currentText.clear();
+        const QSize content(iconSize().width() + 4, hint.height());
+        hint.setWidth(style()->sizeFromContents(QStyle::CT_ComboBox, &option, content, this).width());
+    }
+    return hint;
+}
+
+QSize VNComboBox::minimumSizeHint() const
+{
+    return m_style == IconOnly ? sizeHint() : QComboBox::minimumSizeHint();
+}
+
+void VNComboBox::paintEvent(QPaintEvent*)
+{
+    QStylePainter painter(this);
+    painter.setPen(palette().color(QPalette::Text));
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    if (m_style == TextOnly)
+        option.currentIcon = QIcon();
+    else if (m_style == IconOnly && !option.currentIcon.isNull() && !isEditable())
+        option.currentText.clear();
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "VNWidgetInterface.h"
+#include "vnwidgets_export.h"
+
+#include <QComboBox>
+
+// The toolkit's combo box. It shows its items as icon only, text only or icon and text, in the
+// box and in the popup alike. Each item may carry a widget status, painted as a coloured bar in
+// front of it; a box that observes its items takes the current item's status as its own look
+// (keeping the status it had of its own while it has no current item).
+class VNWIDGETS_EXPORT VNComboBox : public QComboBox, public VNWidgetInterface
+{
+    Q_OBJECT
+    Q_PROPERTY(ComboStyle comboBoxStyle READ comboBoxStyle WRITE setComboBoxStyle)
+    Q_PROPERTY(bool needInputStatus READ isNeedInputStatus WRITE setNeedInputStatus)
+    Q_PROPERTY(bool userEditStatus READ isUserEditStatus WRITE setUserEditStatus)
+
+public:
+    enum ComboStyle
+    {
+        IconOnly = 0,
+        TextOnly = 1,
+        IconAndText = 2
+    };
+    Q_ENUM(ComboStyle)
+
+    // The item data role that holds an item's status word.
+    static const int WidgetStatusRole = Qt::UserRole + 0x5700;
+
+    explicit VNComboBox(QWidget* parent = nullptr);
+
+    ComboStyle comboBoxStyle() const { return m_style; }
+    void setComboBoxStyle(ComboStyle style);
+
+    void setItemWidgetStatus(const int& index, const QFlags<VNWidgetStatus::Status>& status);
+    VNWidgetStatus::StatusFlags itemWidgetStatus(int index) const;
+    VNWidgetStatus::StatusFlags getWidgetStatusOfCurrent() const;
+
+    void observeItemsForWidgetStatus();
+    bool isObservingItems() const { return m_observing; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    // The colour that stands for a status in item bars; invalid for a status without one.
+    static QColor statusColor(VNWidgetStatus::StatusFlags status);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void takeStatusOfCurrent();
+
+    ComboStyle m_style = IconAndText;
+    bool m_observing = false;
+    VNWidgetStatus::StatusFlags m_ownStatus;
+};
