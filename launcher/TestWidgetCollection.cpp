@@ -2,6 +2,7 @@
 
 #include "Loupe.h"
 #include "QtTraining.h"
+#include "TestAdvancedMenu.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
 #include "TestRegExp.h"
@@ -183,7 +184,10 @@ void TestWidgetCollection::on_testDisclosure_clicked() {}
 
 void TestWidgetCollection::on_testVnSlider_clicked() {}
 
-void TestWidgetCollection::on_testVNAdvancedMenu_clicked() {}
+void TestWidgetCollection::on_testVNAdvancedMenu_clicked()
+{
+    showCached(m_testAdvancedMenu, this);
+}
 
 void TestWidgetCollection::on_testCurveInputControl_clicked() {}
 
