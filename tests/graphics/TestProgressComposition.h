@@ -14,7 +14,7 @@ public:
     explicit TestProgressComposition(QWidget* parent);
     ~TestProgressComposition() override;
 
-    bool isAnimationRunning() const { return m_timerId != 0; }
+    int animationTimerId() const { return m_timerId; }
 
 private slots:
     void on_m_ops_valueChanged(int value);

@@ -20,7 +20,11 @@ void VNButton::setMenu(QMenu* menu)
 
 QList<QAction*> VNButton::actions() const
 {
-    return QWidget::actions() + menuActions();
+    QList<QAction*> own = QWidget::actions();
+    // QToolButton keeps the menu's own action among its actions; it stands for the menu itself.
+    if (menu())
+        own.removeAll(menu()->menuAction());
+    return own + menuActions();
 }
 
 QList<QAction*> VNButton::menuActions() const
