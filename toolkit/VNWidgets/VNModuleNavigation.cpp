@@ -11,7 +11,7 @@ const char* const lockIcon = ":/Style/VnWidgets/VNModuleNavigation/lock.svg";
 void discard(QWidget* widget)
 {
     widget->hide();
-    widget->setParent(nullptr);
+    widget->setObjectName(QString());
     // The button may be the sender of the click being handled.
     widget->deleteLater();
 }
