@@ -254,6 +254,8 @@ void TestAdvancedMenuDialog::variantMenu()
     auto* menu = qobject_cast<VNAdvancedMenu*>(dialog.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu());
     QVERIFY(menu);
     QCOMPARE(int(menu->selectActions()), 7);
+    QVERIFY(!menu->findChild<QToolButton*>("selectDefault"));
+    menu->ensurePanel();
     QVERIFY(menu->findChild<QToolButton*>("selectDefault"));
     QCOMPARE(texts(menu->groupActions(1)), QStringList({"One", "Two Up", "One Up One Down", "Two Shapes"}));
     const QList<QAction*> actions = menu->actions();
@@ -326,6 +328,7 @@ void TestAdvancedMenuDialog::selectDefaultCounterIsShared()
     QCOMPARE(TestAdvancedMenu::selectDefaultCount(), 0);
     TestAdvancedMenu first(nullptr);
     auto* menu = qobject_cast<VNAdvancedMenu*>(first.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu());
+    menu->ensurePanel();
     QToolButton* selectDefault = menu->findChild<QToolButton*>("selectDefault");
     for (int n = 1; n <= 3; ++n) {
         selectDefault->click();

@@ -45,24 +45,41 @@ VNAdvancedMenu::VNAdvancedMenu(QWidget* parent)
 
 int VNAdvancedMenu::addControlGroup(const QString& title, bool exclusive, bool compact)
 {
-    auto* titleLabel = new QLabel(title, panel());
-    titleLabel->setObjectName(QStringLiteral("groupTitle"));
-    titleLabel->setProperty("isHeader", true);
-    panelLayout()->addWidget(titleLabel);
-
-    auto* body = new QWidget(panel());
     Group group;
     group.title = title;
     group.compact = compact;
+    if (exclusive)
+        group.exclusive = new QActionGroup(this);
+    m_groups.append(group);
+    if (isPanelBuilt())
+        placeGroup(m_groups.last());
+    return m_groups.size() - 1;
+}
+
+void VNAdvancedMenu::placeGroup(Group& group)
+{
+    auto* titleLabel = new QLabel(group.title, panel());
+    titleLabel->setObjectName(QStringLiteral("groupTitle"));
+    titleLabel->setProperty("isHeader", true);
+    panelLayout()->addWidget(titleLabel);
+    auto* body = new QWidget(panel());
     group.grid = new QGridLayout(body);
     group.grid->setContentsMargins(0, 0, 0, 0);
     group.grid->setSpacing(2);
     group.grid->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    if (exclusive)
-        group.exclusive = new QActionGroup(this);
+    group.cells = 0;
     panelLayout()->addWidget(body);
-    m_groups.append(group);
-    return m_groups.size() - 1;
+}
+
+// The widgets are made when the menu is first shown: a dialog full of menu buttons opens fast.
+void VNAdvancedMenu::buildPanel()
+{
+    placeSelectBar();
+    for (Group& group : m_groups) {
+        placeGroup(group);
+        for (const Control& control : qAsConst(group.controls))
+            placeControl(group, control);
+    }
 }
 
 QString VNAdvancedMenu::groupTitle(int group) const
@@ -96,9 +113,11 @@ bool VNAdvancedMenu::addControlToGroup(QAction* action, int group)
         return false;
     Group& target = m_groups[group];
     takeControl(action, target);
-    QToolButton* button = createControlButton(action, target);
-    target.grid->addWidget(button, target.cells / controlsPerRow, target.cells % controlsPerRow);
-    ++target.cells;
+    Control control;
+    control.main = action;
+    target.controls.append(control);
+    if (isPanelBuilt())
+        placeControl(target, control);
     return true;
 }
 
@@ -110,16 +129,40 @@ bool VNAdvancedMenu::addGroupedControlToGroup(QAction* main, QList<QAction*>& fi
     Group& target = m_groups[group];
     takeControl(main, target);
     m_subActions.insert(main, firstRow + secondRow);
+    Control control;
+    control.main = main;
+    control.firstRow = firstRow;
+    control.secondRow = secondRow;
+    control.grouped = true;
+    target.controls.append(control);
+    if (isPanelBuilt())
+        placeControl(target, control);
+    return true;
+}
 
-    auto* control = new QFrame(panel());
-    control->setObjectName(QStringLiteral("groupedControl"));
-    auto* layout = new QHBoxLayout(control);
+bool VNAdvancedMenu::addGroupedControlToGroup(QAction* main, QList<QAction*>& row, int group)
+{
+    QList<QAction*> none;
+    return addGroupedControlToGroup(main, row, none, group);
+}
+
+void VNAdvancedMenu::placeControl(Group& group, const Control& control)
+{
+    if (!control.grouped) {
+        QToolButton* button = createControlButton(control.main, group);
+        group.grid->addWidget(button, group.cells / controlsPerRow, group.cells % controlsPerRow);
+        ++group.cells;
+        return;
+    }
+    auto* widget = new QFrame(panel());
+    widget->setObjectName(QStringLiteral("groupedControl"));
+    auto* layout = new QHBoxLayout(widget);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(1);
-    layout->addWidget(createControlButton(main, target));
+    layout->addWidget(createControlButton(control.main, group));
     auto* rows = new QVBoxLayout;
     rows->setSpacing(1);
-    for (const QList<QAction*>* row : {&firstRow, &secondRow}) {
+    for (const QList<QAction*>* row : {&control.firstRow, &control.secondRow}) {
         if (row->isEmpty())
             continue;
         auto* rowLayout = new QHBoxLayout;
@@ -132,18 +175,10 @@ bool VNAdvancedMenu::addGroupedControlToGroup(QAction* main, QList<QAction*>& fi
     layout->addLayout(rows);
 
     // Start a grouped control on a new pair of cells so that its sub-buttons have room.
-    if (target.cells % controlsPerRow > controlsPerRow - groupedControlCells)
-        target.cells += controlsPerRow - target.cells % controlsPerRow;
-    target.grid->addWidget(control, target.cells / controlsPerRow, target.cells % controlsPerRow, 1,
-                           groupedControlCells);
-    target.cells += groupedControlCells;
-    return true;
-}
-
-bool VNAdvancedMenu::addGroupedControlToGroup(QAction* main, QList<QAction*>& row, int group)
-{
-    QList<QAction*> none;
-    return addGroupedControlToGroup(main, row, none, group);
+    if (group.cells % controlsPerRow > controlsPerRow - groupedControlCells)
+        group.cells += controlsPerRow - group.cells % controlsPerRow;
+    group.grid->addWidget(widget, group.cells / controlsPerRow, group.cells % controlsPerRow, 1, groupedControlCells);
+    group.cells += groupedControlCells;
 }
 
 QAction* VNAdvancedMenu::createSubAction(const QString& text, const QString& icon, SubActionIcons kind, QObject* parent)
@@ -184,8 +219,15 @@ QToolButton* VNAdvancedMenu::createSubButton(QAction* action)
 void VNAdvancedMenu::setupSelectMenu(SelectActions actions)
 {
     m_selectActions = actions;
+    if (isPanelBuilt())
+        placeSelectBar();
+}
+
+void VNAdvancedMenu::placeSelectBar()
+{
     delete m_selectBar;
     m_selectBar = nullptr;
+    const SelectActions actions = m_selectActions;
     if (!actions)
         return;
     m_selectBar = new QWidget(panel());

@@ -64,7 +64,17 @@ public slots:
 signals:
     void selectDefaultClicked();
 
+protected:
+    void buildPanel() override;
+
 private:
+    struct Control
+    {
+        QAction* main = nullptr;
+        QList<QAction*> firstRow;
+        QList<QAction*> secondRow;
+        bool grouped = false;
+    };
     struct Group
     {
         QString title;
@@ -72,12 +82,16 @@ private:
         QActionGroup* exclusive = nullptr;
         bool compact = false;
         QList<QAction*> actions;
+        QList<Control> controls;
         int cells = 0;
     };
 
     QToolButton* createControlButton(QAction* action, const Group& group);
     QToolButton* createSubButton(QAction* action);
     void takeControl(QAction* action, Group& group);
+    void placeGroup(Group& group);
+    void placeControl(Group& group, const Control& control);
+    void placeSelectBar();
     void setAllChecked(bool checked);
 
     QList<Group> m_groups;

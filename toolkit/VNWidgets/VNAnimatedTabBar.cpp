@@ -284,7 +284,10 @@ bool VNAnimatedTabBar::isTabSelectable(int) const
 int VNAnimatedTabBar::preferredTabWidth(int index) const
 {
     const Tab& tab = m_tabs.at(index);
-    int width = 2 * horizontalPadding + fontMetrics().horizontalAdvance(tab.text) + decorationWidth(index);
+    // Measured in bold, the look of the current tab, so that a tab does not elide when chosen.
+    QFont bold = font();
+    bold.setBold(true);
+    int width = 2 * horizontalPadding + QFontMetrics(bold).horizontalAdvance(tab.text) + decorationWidth(index);
     if (!tab.icon.isNull())
         width += iconExtent + 4;
     if (tab.menuButton)

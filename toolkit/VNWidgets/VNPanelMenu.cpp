@@ -17,8 +17,17 @@ VNPanelMenu::VNPanelMenu(QWidget* parent)
     m_layout->setSizeConstraint(QLayout::SetMinimumSize);
 }
 
+void VNPanelMenu::ensurePanel()
+{
+    if (m_built)
+        return;
+    m_built = true;
+    buildPanel();
+}
+
 QSize VNPanelMenu::sizeHint() const
 {
+    const_cast<VNPanelMenu*>(this)->ensurePanel();
     return m_layout->totalSizeHint().expandedTo(m_layout->totalMinimumSize()) + QSize(2, 2);
 }
 

@@ -18,11 +18,15 @@ public:
 
     QSize sizeHint() const override;
     QWidget* panel() const { return m_panel; }
+    // Creates the panel's widgets if they do not exist yet; menus build them when first shown.
+    void ensurePanel();
 
 protected:
     QVBoxLayout* panelLayout() const { return m_layout; }
     // Emits triggered() as a plain menu does and closes the menu unless the action is checkable.
     void activate(QAction* action);
+    bool isPanelBuilt() const { return m_built; }
+    virtual void buildPanel() {}
 
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -34,4 +38,5 @@ protected:
 private:
     QWidget* m_panel;
     QVBoxLayout* m_layout;
+    bool m_built = false;
 };
