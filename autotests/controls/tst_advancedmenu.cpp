@@ -78,6 +78,7 @@ private slots:
     void selectDefaultCounterIsShared();
     void disableAndEnableMainActions();
     void automatismFollowsCheckBoxes();
+    void clickInMenuPanelBecomesMain();
 };
 
 void TestAdvancedMenuDialog::cleanup()
@@ -372,6 +373,29 @@ void TestAdvancedMenuDialog::automatismFollowsCheckBoxes()
     emit vnMenuButton->menu()->triggered(manual);
     QCOMPARE(vnMenuButton->mainAction(), manual);
     QVERIFY(!dialog.findChild<VNButton*>("m_advancedBtnModify")->triggeredActionBecomesMain());
+}
+
+void TestAdvancedMenuDialog::clickInMenuPanelBecomesMain()
+{
+    TestAdvancedMenu dialog(nullptr);
+    dialog.findChild<QCheckBox*>("m_triggeredActionCB")->setChecked(true);
+    auto* button = dialog.findChild<VNButton*>("m_advancedMenuButton");
+    auto* menu = qobject_cast<VNAdvancedMenu*>(button->menu());
+    menu->ensurePanel();
+    QToolButton* manual = nullptr;
+    for (QToolButton* control : menu->findChildren<QToolButton*>("controlButton")) {
+        if (control->defaultAction()->text() == QLatin1String("Manual"))
+            manual = control;
+    }
+    QVERIFY(manual);
+    manual->click();
+    QCOMPARE(button->mainAction()->text(), QStringLiteral("Manual"));
+    QCOMPARE(button->toolTip(), QStringLiteral("Add a manual boundary fill"));
+
+    auto* listButton = dialog.findChild<VNButton*>("m_advancedListMenuButton");
+    const QList<QAbstractButton*> entries = listButton->menu()->findChildren<QAbstractButton*>("listMenuEntry");
+    entries.at(2)->click();
+    QCOMPARE(listButton->mainAction()->text(), QStringLiteral("Single"));
 }
 
 QTEST_MAIN(TestAdvancedMenuDialog)

@@ -1,4 +1,9 @@
+#include "TestAdvancedMenu.h"
+#include "TestModuleNavigation.h"
+#include "TestProgressComposition.h"
+#include "TestVNAnimatedTabBar.h"
 #include "TestVNResultSwitcher.h"
+#include "TestWidgetCollection.h"
 
 #include <VNFixedFontSizeToolButton.h>
 #include <VNLabel.h>
@@ -8,6 +13,7 @@
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QMenu>
+#include <QPushButton>
 #include <QTest>
 #include <QToolButton>
 
@@ -37,6 +43,7 @@ private slots:
     void countsAreNotRefreshed();
     void buttonsAreExclusive();
     void fixedFontSizeIgnoresParentFont();
+    void launcherOpensNewSwitcherEveryClick();
 };
 
 void TestResultSwitcher::cleanup()
@@ -160,6 +167,31 @@ void TestResultSwitcher::fixedFontSizeIgnoresParentFont()
     big.setPointSize(20);
     parent.setFont(big);
     QCOMPARE(button.font().pointSize(), 10);
+}
+
+template<typename Window>
+int windows(const QWidget& panel)
+{
+    return panel.findChildren<Window*>(QString(), Qt::FindDirectChildrenOnly).size();
+}
+
+void TestResultSwitcher::launcherOpensNewSwitcherEveryClick()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    for (const char* name : {"m_vnResultSwitcher", "testVNAdvancedMenu", "m_testAnimatedTabBar",
+                             "testVNModuleNavigation", "m_progressTest"}) {
+        QPushButton* button = panel.findChild<QPushButton*>(QLatin1String(name));
+        QVERIFY2(button, name);
+        button->click();
+        button->click();
+    }
+    QCOMPARE(windows<TestVNResultSwitcher>(panel), 2);
+    QCOMPARE(windows<TestAdvancedMenu>(panel), 1);
+    QCOMPARE(windows<TestVNAnimatedTabBar>(panel), 1);
+    QCOMPARE(windows<TestModuleNavigation>(panel), 1);
+    QCOMPARE(windows<TestProgressComposition>(panel), 1);
+    for (auto* window : panel.findChildren<TestVNResultSwitcher*>())
+        QVERIFY(window->isVisible());
 }
 
 QTEST_MAIN(TestResultSwitcher)
