@@ -277,7 +277,6 @@ void TestAnimatedTabBar::firstTabKeepsPreferredWidth()
     VNAnimatedTabBar bar;
     for (int i = 0; i < 8; ++i)
         bar.addTab(QStringLiteral("Operation %1").arg(i));
-    bar.show();
     bar.resize(2000, 30);
     const int preferred = bar.tabRect(0).width();
     bar.resize(300, 30);

@@ -155,8 +155,15 @@ void VNAnimatedTabBar::showMenu(int index, QMenu* menu)
     menu->exec(mapToGlobal(tabRect(index).bottomLeft()));
 }
 
+void VNAnimatedTabBar::ensureLayout() const
+{
+    if (m_layoutSize != size())
+        const_cast<VNAnimatedTabBar*>(this)->relayout();
+}
+
 int VNAnimatedTabBar::getIndexAtPosition(const QPoint& globalPosition) const
 {
+    ensureLayout();
     const QPoint local = mapFromGlobal(globalPosition);
     for (int i = 0; i < m_tabs.size(); ++i) {
         if (m_tabs.at(i).rect.contains(local))
@@ -167,6 +174,7 @@ int VNAnimatedTabBar::getIndexAtPosition(const QPoint& globalPosition) const
 
 QRect VNAnimatedTabBar::tabRect(int index) const
 {
+    ensureLayout();
     return validIndex(index) ? m_tabs.at(index).rect : QRect();
 }
 
@@ -306,6 +314,7 @@ int VNAnimatedTabBar::imageWidth() const
 // first tab whose width is fixed.
 void VNAnimatedTabBar::relayout()
 {
+    m_layoutSize = size();
     int buttonsWidth = 0;
     for (QToolButton* button : qAsConst(m_buttons))
         buttonsWidth += button->sizeHint().width() + buttonSpacing;

@@ -130,6 +130,8 @@ private:
     QRectF targetIndicator() const;
     void moveIndicator();
     bool validIndex(int index) const { return index >= 0 && index < m_tabs.size(); }
+    // A hidden bar gets no resize events; geometry questions lay it out for its current size.
+    void ensureLayout() const;
 
     QVector<Tab> m_tabs;
     QList<QToolButton*> m_buttons;
@@ -137,6 +139,7 @@ private:
     QSvgRenderer* m_image = nullptr;
     QString m_imagePath;
     QRectF m_indicator;
+    QSize m_layoutSize;
     int m_current = -1;
     int m_marked = -1;
     int m_hovered = -1;
