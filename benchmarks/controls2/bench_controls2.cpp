@@ -1,7 +1,7 @@
 // Prints how long the menu, tab bar, result switcher, module navigation and progress dialogs take
 // to open the first time, how long each frame of the tab indicator animation takes with 30 tabs,
 // and how long a result switcher of 200 buttons takes to build. With a folder argument it also
-// saves pictures of the dialogs' pop-up menus there.
+// saves pictures of the dialogs' pop-up menus and of the progress bar's looks there.
 // Run it headless: QT_QPA_PLATFORM=offscreen ./bench_controls2 [DIR]
 #include "TestAdvancedMenu.h"
 #include "TestModuleNavigation.h"
@@ -11,6 +11,7 @@
 
 #include <VNAnimatedTabBar.h>
 #include <VNButton.h>
+#include <VNMultiProgressBar.h>
 #include <VNResultSwitcher.h>
 #include <VNStyleSheet.h>
 
@@ -152,6 +153,21 @@ void saveMenus(const QString& folder)
         saveMenu(dialog.findChild<VNButton*>(name)->menu(), folder + QStringLiteral("/%1.png").arg(name));
     saveMenu(dialog.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu(),
              folder + QStringLiteral("/commandLinkButton_2.png"));
+
+    VNMultiProgressBar bar;
+    bar.setProgressItems({QStringLiteral("OP10"), QStringLiteral("OP20"), QStringLiteral("Long operation 30"),
+                          QStringLiteral("OP40"), QStringLiteral("OP50")});
+    bar.setCurrent(2);
+    bar.stepCurrent(40);
+    const char* modes[] = {"GaussianBell", "Constant", "Balance", "Manual"};
+    for (int mode = 0; mode < 4; ++mode) {
+        bar.setStretchMode(mode);
+        bar.resize(600, 30);
+        bar.grab().save(folder + QStringLiteral("/progress_%1.png").arg(QLatin1String(modes[mode])));
+    }
+    bar.setCircular(true);
+    bar.resize(160, 160);
+    bar.grab().save(folder + QStringLiteral("/progress_circular.png"));
 }
 } // namespace
 

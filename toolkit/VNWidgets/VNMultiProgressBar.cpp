@@ -117,8 +117,12 @@ QVector<double> VNMultiProgressBar::segmentWidths(double available) const
             weights[i] = 0.35 + qExp(-(i - centre) * (i - centre) / (2 * sigma * sigma));
     } else if (m_stretchMode == Balance) {
         // Every label gets the room it needs; what is left is shared equally.
+        // Measured in bold, the look of the current operation's label.
+        QFont bold = font();
+        bold.setBold(true);
+        const QFontMetrics metrics(bold);
         for (int i = 0; i < n; ++i)
-            weights[i] = fontMetrics().horizontalAdvance(m_items.at(i)) + 8;
+            weights[i] = metrics.horizontalAdvance(m_items.at(i)) + 12;
         double needed = 0;
         for (double weight : weights)
             needed += weight;
@@ -212,5 +216,7 @@ void VNMultiProgressBar::paintRing(QPainter& painter)
     }
     painter.setPen(labelColor);
     const QString centre = m_current >= 0 ? m_items.at(m_current) : QString();
-    painter.drawText(ring, Qt::AlignCenter, centre);
+    const QRectF inner = ring.adjusted(2 * thickness, 2 * thickness, -2 * thickness, -2 * thickness);
+    painter.drawText(inner, Qt::AlignCenter,
+                     painter.fontMetrics().elidedText(centre, Qt::ElideRight, int(inner.width())));
 }
