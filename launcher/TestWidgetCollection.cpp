@@ -2,13 +2,18 @@
 
 #include "Loupe.h"
 #include "QtTraining.h"
+#include "TestAdvancedMenu.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
 #include "TestComboBox.h"
 #include "TestCurveInputControl.h"
+#include "TestModuleNavigation.h"
+#include "TestProgressComposition.h"
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
+#include "TestVNAnimatedTabBar.h"
 #include "TestVNMessageBox.h"
+#include "TestVNResultSwitcher.h"
 #include "TestVNSliderView.h"
 #include "TestValueFields.h"
 #include "TestVirtualSlider.h"
@@ -185,7 +190,10 @@ void TestWidgetCollection::on_m_QtTraining_clicked()
 
 void TestWidgetCollection::on_m_testSVG_clicked() {}
 
-void TestWidgetCollection::on_m_testAnimatedTabBar_clicked() {}
+void TestWidgetCollection::on_m_testAnimatedTabBar_clicked()
+{
+    showCached(m_testAnimatedTabBar, this);
+}
 
 void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
 
@@ -202,7 +210,10 @@ void TestWidgetCollection::on_testVnSlider_clicked()
     showCached(m_testSliderView, this);
 }
 
-void TestWidgetCollection::on_testVNAdvancedMenu_clicked() {}
+void TestWidgetCollection::on_testVNAdvancedMenu_clicked()
+{
+    showCached(m_testAdvancedMenu, this);
+}
 
 void TestWidgetCollection::on_testCurveInputControl_clicked()
 {
@@ -211,7 +222,10 @@ void TestWidgetCollection::on_testCurveInputControl_clicked()
 
 void TestWidgetCollection::on_testInfoArea_clicked() {}
 
-void TestWidgetCollection::on_testVNModuleNavigation_clicked() {}
+void TestWidgetCollection::on_testVNModuleNavigation_clicked()
+{
+    showCached(m_testModuleNavigation, this);
+}
 
 void TestWidgetCollection::on_testTableWidget_clicked() {}
 
@@ -221,11 +235,18 @@ void TestWidgetCollection::on_testTreeWidget_clicked() {}
 
 void TestWidgetCollection::on_m_joinsTestTable_clicked() {}
 
-void TestWidgetCollection::on_m_vnResultSwitcher_clicked() {}
+// A new window on every click; the panel deletes them all when it goes.
+void TestWidgetCollection::on_m_vnResultSwitcher_clicked()
+{
+    (new TestVNResultSwitcher(this))->show();
+}
 
 void TestWidgetCollection::on_m_testDragAndDrop_clicked() {}
 
-void TestWidgetCollection::on_m_progressTest_clicked() {}
+void TestWidgetCollection::on_m_progressTest_clicked()
+{
+    showCached(m_testProgressComposition, this);
+}
 
 void TestWidgetCollection::on_m_converterTest_clicked() {}
 

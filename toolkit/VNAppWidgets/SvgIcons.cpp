@@ -1,23 +1,7 @@
 #include "SvgIcons.h"
 
 #include <QFileInfo>
-#include <QPainter>
-#include <QPixmap>
-#include <QSvgRenderer>
-
-namespace {
-QPixmap renderSvg(const QString& path, const QSize& size)
-{
-    QSvgRenderer renderer(path);
-    if (!renderer.isValid())
-        return QPixmap();
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    renderer.render(&painter);
-    return pixmap;
-}
-} // namespace
+#include <QHash>
 
 QIcon createSvgIcon(const QString& resourcePath)
 {
@@ -26,8 +10,15 @@ QIcon createSvgIcon(const QString& resourcePath)
     return QIcon(resourcePath);
 }
 
+// The drawings are handed to the SVG icon engine, which renders each size only when it is first
+// painted, and an icon once made is shared by every later caller: menus that list the same
+// actions many times stay cheap to build.
 QIcon createTwoSizeSvgIcon(const QString& basePath)
 {
+    static QHash<QString, QIcon> made;
+    const auto found = made.constFind(basePath);
+    if (found != made.constEnd())
+        return *found;
     QIcon icon;
     const bool single = basePath.endsWith(QLatin1String(".svg"), Qt::CaseInsensitive);
     const struct
@@ -37,9 +28,9 @@ QIcon createTwoSizeSvgIcon(const QString& basePath)
     } drawings[] = {{single ? basePath : basePath + QStringLiteral("_16.svg"), 16},
                     {single ? basePath : basePath + QStringLiteral("_24.svg"), 24}};
     for (const auto& drawing : drawings) {
-        const QPixmap pixmap = renderSvg(drawing.path, QSize(drawing.extent, drawing.extent));
-        if (!pixmap.isNull())
-            icon.addPixmap(pixmap);
+        if (QFileInfo::exists(drawing.path))
+            icon.addFile(drawing.path, QSize(drawing.extent, drawing.extent));
     }
+    made.insert(basePath, icon);
     return icon;
 }

@@ -1,0 +1,402 @@
+#include "TestAdvancedMenu.h"
+
+#include <VNAdvancedListMenu.h>
+#include <VNAdvancedMenu.h>
+#include <VNButton.h>
+#include <VNCheckBoxGroupMenu.h>
+#include <VNMenu.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCommandLinkButton>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+QStringList texts(const QList<QAction*>& actions)
+{
+    QStringList result;
+    for (QAction* action : actions)
+        result.append(action->text());
+    return result;
+}
+
+QList<bool> enabledStates(const QList<QAction*>& actions)
+{
+    QList<bool> result;
+    for (QAction* action : actions)
+        result.append(action->isEnabled());
+    return result;
+}
+
+QList<bool> everyNth(int count, int n)
+{
+    QList<bool> result;
+    for (int i = 0; i < count; ++i)
+        result.append(i % n == 0);
+    return result;
+}
+
+// A button whose menu holds the actions A, B, C.
+struct MenuButton
+{
+    MenuButton()
+    {
+        button.setMenu(&menu);
+        for (const char* text : {"A", "B", "C"})
+            actions.append(menu.addAction(QLatin1String(text)));
+    }
+    VNButton button;
+    VNMenu menu;
+    QList<QAction*> actions;
+};
+} // namespace
+
+class TestAdvancedMenuDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void mainActionIsFirstEnabled();
+    void buttonShowsAndTriggersMainAction();
+    void disabledMainActionStaysUnlessUpdated();
+    void triggeredActionBecomesMainOnlyWhenAsked();
+    void buttonActionsReachMenuActions();
+
+    void form_data();
+    void form();
+    void modifyMenuGroups();
+    void listMenuEntries();
+    void variantMenu();
+    void checkBoxGroupMenu();
+    void joinsMenuRows();
+    void initialMainActions();
+    void selectDefaultCounterIsShared();
+    void disableAndEnableMainActions();
+    void automatismFollowsCheckBoxes();
+    void clickInMenuPanelBecomesMain();
+};
+
+void TestAdvancedMenuDialog::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestAdvancedMenuDialog::mainActionIsFirstEnabled()
+{
+    MenuButton m;
+    QCOMPARE(m.button.mainAction(), nullptr);
+    m.actions.at(0)->setEnabled(false);
+    m.button.makeFirstEnabledActionMain();
+    QCOMPARE(m.button.mainAction(), m.actions.at(1));
+}
+
+void TestAdvancedMenuDialog::buttonShowsAndTriggersMainAction()
+{
+    MenuButton m;
+    m.actions.at(1)->setToolTip(QStringLiteral("tip B"));
+    m.button.setMainAction(m.actions.at(1));
+    QCOMPARE(m.button.text(), QStringLiteral("B"));
+    QCOMPARE(m.button.toolTip(), QStringLiteral("tip B"));
+    QSignalSpy triggered(m.actions.at(1), &QAction::triggered);
+    m.button.click();
+    QCOMPARE(triggered.count(), 1);
+    m.actions.at(1)->setEnabled(false);
+    m.button.click();
+    QCOMPARE(triggered.count(), 1);
+}
+
+void TestAdvancedMenuDialog::disabledMainActionStaysUnlessUpdated()
+{
+    MenuButton m;
+    m.button.makeFirstEnabledActionMain();
+    m.actions.at(0)->setEnabled(false);
+    QCOMPARE(m.button.mainAction(), m.actions.at(0));
+    m.button.enableAutomaticMainActionUpdate(false, true);
+    QCOMPARE(m.button.mainAction(), m.actions.at(1));
+    m.actions.at(1)->setEnabled(false);
+    QCOMPARE(m.button.mainAction(), m.actions.at(2));
+}
+
+void TestAdvancedMenuDialog::triggeredActionBecomesMainOnlyWhenAsked()
+{
+    MenuButton m;
+    m.button.makeFirstEnabledActionMain();
+    emit m.menu.triggered(m.actions.at(2));
+    QCOMPARE(m.button.mainAction(), m.actions.at(0));
+    m.button.enableAutomaticMainActionUpdate(true, false);
+    emit m.menu.triggered(m.actions.at(2));
+    QCOMPARE(m.button.mainAction(), m.actions.at(2));
+    QCOMPARE(m.button.text(), QStringLiteral("C"));
+}
+
+void TestAdvancedMenuDialog::buttonActionsReachMenuActions()
+{
+    MenuButton m;
+    m.menu.addSeparator();
+    QCOMPARE(m.button.actions(), m.actions);
+}
+
+void TestAdvancedMenuDialog::form_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("className");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("modify") << "m_advancedBtnModify"
+                            << "VNButton"
+                            << "Modify";
+    QTest::newRow("one group") << "m_advancedBtnOneGroup"
+                               << "VNButton"
+                               << "One Group";
+    QTest::newRow("list") << "m_advanceListBtn"
+                          << "VNButton"
+                          << "List";
+    QTest::newRow("label") << "vnLabel"
+                           << "VNLabel"
+                           << "VNAdvancedMenu with ActionsBar Buttons";
+    QTest::newRow("label 2") << "vnLabel_2"
+                             << "VNLabel"
+                             << "VNAdvancedListMenu";
+    QTest::newRow("label 4") << "vnLabel_4"
+                             << "VNLabel"
+                             << "Auto Main Action Update Test";
+    QTest::newRow("link") << "commandLinkButton"
+                          << "QCommandLinkButton"
+                          << "Embed: Rectangle";
+    QTest::newRow("link 2") << "commandLinkButton_2"
+                            << "QCommandLinkButton"
+                            << "";
+    QTest::newRow("check box group") << "m_CheckBoxGroupBtn"
+                                     << "VNButton"
+                                     << "CheckBoxGroup";
+    QTest::newRow("sub menu") << "m_advancedSubMenuButton"
+                              << "VNButton"
+                              << "Add";
+    QTest::newRow("triggered") << "m_triggeredActionCB"
+                               << "QCheckBox"
+                               << "Triggered Action as Main";
+    QTest::newRow("disabled") << "m_disabledActionCB"
+                              << "QCheckBox"
+                              << "Update Disabled Action";
+    QTest::newRow("disable") << "m_disableMainActionBtn"
+                             << "QPushButton"
+                             << "Disable Main Action";
+    QTest::newRow("enable") << "m_enableAllActionsBtn"
+                            << "QPushButton"
+                            << "Enable All Actions";
+    QTest::newRow("separator") << "vnSeparator"
+                               << "VNSeparator"
+                               << "";
+    QTest::newRow("separator 2") << "vnSeparator_2"
+                                 << "VNSeparator"
+                                 << "";
+}
+
+void TestAdvancedMenuDialog::form()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, className);
+    QFETCH(QString, text);
+    TestAdvancedMenu dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QStringLiteral("TestAdvancedMenuClass"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Form"));
+    QWidget* widget = dialog.findChild<QWidget*>(name);
+    QVERIFY(widget);
+    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), className);
+    if (!text.isEmpty() || className != QLatin1String("VNSeparator"))
+        QCOMPARE(widget->property("text").toString(), text);
+    if (auto* button = qobject_cast<VNButton*>(widget))
+        QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
+}
+
+void TestAdvancedMenuDialog::modifyMenuGroups()
+{
+    TestAdvancedMenu dialog(nullptr);
+    for (const char* name : {"m_advancedBtnModify", "m_advancedMenuButton"}) {
+        auto* menu = qobject_cast<VNAdvancedMenu*>(dialog.findChild<VNButton*>(name)->menu());
+        QVERIFY(menu);
+        QCOMPARE(menu->groupCount(), 4);
+        QCOMPARE(menu->groupTitle(2), QStringLiteral("Outer Fill"));
+        QCOMPARE(texts(menu->groupActions(1)), QStringList({"All", "Single"}));
+        QCOMPARE(texts(menu->groupActions(3)), QStringList({"Detail", "Morph", "Radius", "Preform", "Replace"}));
+        QCOMPARE(menu->actions().at(0)->toolTip(), QStringLiteral("Add a trim curve for splitting patches"));
+        QVERIFY(!menu->actions().at(0)->icon().isNull());
+    }
+    auto* oneGroup = qobject_cast<VNAdvancedMenu*>(dialog.findChild<VNButton*>("m_advancedBtnOneGroup")->menu());
+    QCOMPARE(oneGroup->groupCount(), 1);
+    QCOMPARE(oneGroup->actions().size(), 12);
+    QCOMPARE(oneGroup->actions().last()->text(), QStringLiteral("Replace"));
+    QCOMPARE(oneGroup->actions().last()->toolTip(), QStringLiteral("Add a replace"));
+}
+
+void TestAdvancedMenuDialog::listMenuEntries()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* menu = qobject_cast<VNAdvancedListMenu*>(dialog.findChild<VNButton*>("m_advanceListBtn")->menu());
+    QVERIFY(menu);
+    QCOMPARE(menu->defaultIconSize(), QSize(48, 48));
+    QCOMPARE(texts(menu->actions()),
+             QStringList({"Trim with Line", "All", "Single", "Automatic", "Manual", "End", "Double"}));
+    const QList<QAbstractButton*> entries = menu->findChildren<QAbstractButton*>("listMenuEntry");
+    QCOMPARE(entries.size(), 7);
+    QCOMPARE(entries.first()->width(), 430);
+}
+
+void TestAdvancedMenuDialog::variantMenu()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* link = dialog.findChild<QCommandLinkButton*>("commandLinkButton");
+    QCOMPARE(link->description(), QStringLiteral("6 of 14 Variants are choosen"));
+    QCOMPARE(link->property("composition").toString(), QStringLiteral("left"));
+    auto* menu = qobject_cast<VNAdvancedMenu*>(dialog.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu());
+    QVERIFY(menu);
+    QCOMPARE(int(menu->selectActions()), 7);
+    QVERIFY(!menu->findChild<QToolButton*>("selectDefault"));
+    menu->ensurePanel();
+    QVERIFY(menu->findChild<QToolButton*>("selectDefault"));
+    QCOMPARE(texts(menu->groupActions(1)), QStringList({"One", "Two Up", "One Up One Down", "Two Shapes"}));
+    const QList<QAction*> actions = menu->actions();
+    QCOMPARE(actions.size(), 14);
+    QCOMPARE(actions.at(5)->text(), QStringLiteral("Chevron"));
+    QCOMPARE(actions.at(5)->property("optimizationType").toInt(), 17);
+    QCOMPARE(actions.at(5)->property("VNActionBarButtonStyle").toInt(), 0);
+    for (QAction* action : actions)
+        QVERIFY(action->isCheckable());
+    menu->selectAll();
+    QVERIFY(actions.last()->isChecked());
+    QCOMPARE(link->description(), QStringLiteral("6 of 14 Variants are choosen"));
+    menu->selectNone();
+    QVERIFY(!actions.first()->isChecked());
+}
+
+void TestAdvancedMenuDialog::checkBoxGroupMenu()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* menu = qobject_cast<VNCheckBoxGroupMenu*>(dialog.findChild<VNButton*>("m_CheckBoxGroupBtn")->menu());
+    QVERIFY(menu);
+    QCOMPARE(menu->groups(), QStringList({"Design Files", "Simulation State", "Material & Lubrication"}));
+    QCOMPARE(menu->checkBoxes("Design Files").size(), 2);
+    QCOMPARE(menu->checkBoxes("Simulation State").size(), 2);
+    QCOMPARE(menu->checkBoxes("Material & Lubrication").size(), 6);
+    QVERIFY(menu->findChild<QToolButton*>("selectAll"));
+    QVERIFY(!menu->findChild<QToolButton*>("selectDefault"));
+    int checked = 0;
+    for (QCheckBox* box : menu->findChildren<QCheckBox*>())
+        checked += box->isChecked();
+    QCOMPARE(checked, 2);
+    menu->findChild<QToolButton*>("selectAll")->click();
+    QVERIFY(menu->checkBoxes("Simulation State").first()->isChecked());
+    menu->findChild<QToolButton*>("selectNone")->click();
+    QVERIFY(!menu->checkBoxes("Design Files").first()->isChecked());
+    QVERIFY(!menu->addCheckBoxToGroup(new QCheckBox(menu), QStringLiteral("No such group")));
+}
+
+void TestAdvancedMenuDialog::joinsMenuRows()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* menu = qobject_cast<VNAdvancedMenu*>(dialog.findChild<VNButton*>("m_advancedSubMenuButton")->menu());
+    QVERIFY(menu);
+    QCOMPARE(menu->groupCount(), 7);
+    QCOMPARE(menu->groupTitle(6), QStringLiteral("Longer Bottom Row"));
+    QCOMPARE(menu->actions().size(), 9);
+    QAction* six = menu->groupActions(3).first();
+    QCOMPARE(six->text(), QStringLiteral("Add"));
+    QCOMPARE(six->toolTip(), QStringLiteral("Add point joins to connect parts"));
+    QCOMPARE(texts(menu->subActions(six)),
+             QStringList({"Copy", "Dependent", "Dependent", "Dependent", "Dependent", "Dependent"}));
+    QCOMPARE(menu->subActions(six).first()->property(VNAdvancedMenu::subActionIconProperty).toInt(), 1);
+    QCOMPARE(menu->subActions(six).last()->property(VNAdvancedMenu::subActionIconProperty).toInt(), 2);
+}
+
+void TestAdvancedMenuDialog::initialMainActions()
+{
+    TestAdvancedMenu dialog(nullptr);
+    QCOMPARE(dialog.findChild<VNButton*>("m_vnMenuButton")->mainAction()->text(), QStringLiteral("All"));
+    QCOMPARE(dialog.findChild<VNButton*>("m_advancedMenuButton")->mainAction()->text(),
+             QStringLiteral("Trim with Line"));
+    QCOMPARE(dialog.findChild<VNButton*>("m_advancedListMenuButton")->mainAction()->text(),
+             QStringLiteral("Trim with Line"));
+    QCOMPARE(dialog.findChild<VNButton*>("m_advancedSubMenuButton")->mainAction()->text(), QStringLiteral("Add"));
+    QCOMPARE(dialog.findChild<VNButton*>("m_advancedBtnModify")->mainAction(), nullptr);
+}
+
+void TestAdvancedMenuDialog::selectDefaultCounterIsShared()
+{
+    QCOMPARE(TestAdvancedMenu::selectDefaultCount(), 0);
+    TestAdvancedMenu first(nullptr);
+    auto* menu = qobject_cast<VNAdvancedMenu*>(first.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu());
+    menu->ensurePanel();
+    QToolButton* selectDefault = menu->findChild<QToolButton*>("selectDefault");
+    for (int n = 1; n <= 3; ++n) {
+        selectDefault->click();
+        QCOMPARE(enabledStates(menu->actions()), everyNth(14, n));
+    }
+    TestAdvancedMenu second(nullptr);
+    auto* otherMenu =
+        qobject_cast<VNAdvancedMenu*>(second.findChild<QCommandLinkButton*>("commandLinkButton_2")->menu());
+    emit otherMenu->selectDefaultClicked();
+    QCOMPARE(TestAdvancedMenu::selectDefaultCount(), 4);
+    QCOMPARE(enabledStates(otherMenu->actions()), everyNth(14, 4));
+}
+
+void TestAdvancedMenuDialog::disableAndEnableMainActions()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* vnMenuButton = dialog.findChild<VNButton*>("m_vnMenuButton");
+    auto* listButton = dialog.findChild<VNButton*>("m_advancedListMenuButton");
+    auto* subButton = dialog.findChild<VNButton*>("m_advancedSubMenuButton");
+    dialog.findChild<QPushButton*>("m_disableMainActionBtn")->click();
+    QVERIFY(!vnMenuButton->mainAction()->isEnabled());
+    QVERIFY(!listButton->mainAction()->isEnabled());
+    QVERIFY(subButton->mainAction()->isEnabled());
+    dialog.findChild<QPushButton*>("m_enableAllActionsBtn")->click();
+    for (QAction* action : vnMenuButton->actions())
+        QVERIFY(action->isEnabled());
+    QVERIFY(listButton->mainAction()->isEnabled());
+}
+
+void TestAdvancedMenuDialog::automatismFollowsCheckBoxes()
+{
+    TestAdvancedMenu dialog(nullptr);
+    auto* vnMenuButton = dialog.findChild<VNButton*>("m_vnMenuButton");
+    dialog.findChild<QCheckBox*>("m_disabledActionCB")->setChecked(true);
+    QVERIFY(vnMenuButton->updatesForDisabledActions());
+    QVERIFY(!vnMenuButton->triggeredActionBecomesMain());
+    dialog.findChild<QPushButton*>("m_disableMainActionBtn")->click();
+    QCOMPARE(vnMenuButton->mainAction()->text(), QStringLiteral("Single"));
+    dialog.findChild<QCheckBox*>("m_triggeredActionCB")->setChecked(true);
+    QAction* manual = vnMenuButton->actions().at(4);
+    emit vnMenuButton->menu()->triggered(manual);
+    QCOMPARE(vnMenuButton->mainAction(), manual);
+    QVERIFY(!dialog.findChild<VNButton*>("m_advancedBtnModify")->triggeredActionBecomesMain());
+}
+
+void TestAdvancedMenuDialog::clickInMenuPanelBecomesMain()
+{
+    TestAdvancedMenu dialog(nullptr);
+    dialog.findChild<QCheckBox*>("m_triggeredActionCB")->setChecked(true);
+    auto* button = dialog.findChild<VNButton*>("m_advancedMenuButton");
+    auto* menu = qobject_cast<VNAdvancedMenu*>(button->menu());
+    menu->ensurePanel();
+    QToolButton* manual = nullptr;
+    for (QToolButton* control : menu->findChildren<QToolButton*>("controlButton")) {
+        if (control->defaultAction()->text() == QLatin1String("Manual"))
+            manual = control;
+    }
+    QVERIFY(manual);
+    manual->click();
+    QCOMPARE(button->mainAction()->text(), QStringLiteral("Manual"));
+    QCOMPARE(button->toolTip(), QStringLiteral("Add a manual boundary fill"));
+
+    auto* listButton = dialog.findChild<VNButton*>("m_advancedListMenuButton");
+    const QList<QAbstractButton*> entries = listButton->menu()->findChildren<QAbstractButton*>("listMenuEntry");
+    entries.at(2)->click();
+    QCOMPARE(listButton->mainAction()->text(), QStringLiteral("Single"));
+}
+
+QTEST_MAIN(TestAdvancedMenuDialog)
+#include "tst_advancedmenu.moc"

@@ -1,0 +1,290 @@
+#include "TestVNAnimatedTabBar.h"
+
+#include <VNAnimatedOPTabBar.h>
+#include <VNAnimatedTabBar.h>
+#include <VNModuleNavigation.h>
+#include <VNTabBar.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QVariantAnimation>
+
+namespace {
+struct Bars
+{
+    explicit Bars(QWidget* dialog)
+        : plain(dialog->findChild<VNTabBar*>())
+        , animated(dialog->findChild<VNAnimatedTabBar*>("m_animatedTabBar"))
+        , op(dialog->findChild<VNAnimatedOPTabBar*>())
+        , add(button(dialog, "Add Tab"))
+        , remove(button(dialog, "Remove Tab"))
+        , arrows(button(dialog, "Use Arrows"))
+        , mirror(button(dialog, "Mirror Arrows"))
+    {}
+
+    static QPushButton* button(QWidget* dialog, const QString& text)
+    {
+        for (QPushButton* candidate : dialog->findChildren<QPushButton*>()) {
+            if (candidate->text() == text)
+                return candidate;
+        }
+        return nullptr;
+    }
+
+    QStringList texts(const VNAnimatedTabBar* bar) const
+    {
+        QStringList result;
+        for (int i = 0; i < bar->count(); ++i)
+            result.append(bar->tabText(i));
+        return result;
+    }
+    QStringList plainTexts() const
+    {
+        QStringList result;
+        for (int i = 0; i < plain->count(); ++i)
+            result.append(plain->tabText(i));
+        return result;
+    }
+    QList<int> currents() const { return {plain->currentIndex(), animated->currentIndex(), op->currentIndex()}; }
+
+    VNTabBar* plain;
+    VNAnimatedTabBar* animated;
+    VNAnimatedOPTabBar* op;
+    QPushButton* add;
+    QPushButton* remove;
+    QPushButton* arrows;
+    QPushButton* mirror;
+};
+
+const QStringList sampleTabs = {"PL", "(F-40)", "D-20", "(T40)"};
+} // namespace
+
+class TestAnimatedTabBar : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void form();
+    void sampleStates();
+    void currentTabFollowsOnAllBars();
+    void addNumbersFromPlainCount();
+    void removeOnEmptyBarsIsHarmless();
+    void closeRemovesFromAnimatedBarsOnly();
+    void arrowsSwitchAndMirror();
+    void indicatorSlides();
+    void indexAtPosition();
+    void lockedOperationIsNotSelectable();
+    void statusAndDarkStyleArePainted();
+    void firstTabKeepsPreferredWidth();
+};
+
+void TestAnimatedTabBar::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestAnimatedTabBar::form()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    QVERIFY(bars.plain && bars.animated && bars.op && bars.add && bars.remove && bars.arrows && bars.mirror);
+    QVERIFY(bars.arrows->isCheckable() && bars.arrows->isChecked());
+    QVERIFY(bars.mirror->isCheckable() && !bars.mirror->isChecked());
+    QStringList labels;
+    for (QLabel* label : dialog.findChildren<QLabel*>())
+        labels.append(label->text());
+    QCOMPARE(labels, QStringList({"VNTabBar", "AnimatedTabBar", "AnimatedOPTabBar"}));
+    QCOMPARE(dialog.findChildren<VNModuleNavigation*>().size(), 3);
+    QCOMPARE(bars.plainTexts(), sampleTabs);
+    QCOMPARE(bars.texts(bars.animated), sampleTabs);
+    QCOMPARE(bars.texts(bars.op), sampleTabs);
+    QCOMPARE(bars.animated->minimumHeight(), 28);
+    QCOMPARE(bars.animated->buttons().size(), 1);
+    QToolButton* add = bars.animated->buttons().first();
+    QCOMPARE(add->popupMode(), QToolButton::MenuButtonPopup);
+    QCOMPARE(add->defaultAction()->text(), QStringLiteral("Add"));
+    QCOMPARE(add->menu()->actions(), QList<QAction*>({add->defaultAction()}));
+}
+
+void TestAnimatedTabBar::sampleStates()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    QVERIFY(bars.animated->hasMenuButton(3));
+    QVERIFY(!bars.animated->hasMenuButton(2));
+    VNAnimatedOPTabBar* op = bars.op;
+    QCOMPARE(op->operationStates(1), VNAnimatedOPTabBar::SemiLocked);
+    QCOMPARE(op->operationStates(2), VNAnimatedOPTabBar::Cycled);
+    QCOMPARE(op->operationStates(3), VNAnimatedOPTabBar::Skipped);
+    QVERIFY(!op->hasImageAfterTab(0));
+    QVERIFY(op->hasImageAfterTab(1));
+    QVERIFY(op->isDarkStyle(0));
+    QCOMPARE(op->markedIndex(), 2);
+    QVERIFY(op->isFixFirstWidthPreferred());
+    QVERIFY(op->hasCloseButton(2));
+    QCOMPARE(int(op->widgetStatus(1)), 0x20);
+}
+
+void TestAnimatedTabBar::currentTabFollowsOnAllBars()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    bars.plain->setCurrentIndex(2);
+    QCOMPARE(bars.currents(), QList<int>({2, 2, 2}));
+    bars.op->setCurrentIndex(1);
+    QCOMPARE(bars.currents(), QList<int>({1, 1, 1}));
+}
+
+void TestAnimatedTabBar::addNumbersFromPlainCount()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    bars.add->click();
+    QCOMPARE(bars.plain->tabText(4), QStringLiteral("(D-4)"));
+    QCOMPARE(bars.animated->tabText(4), QStringLiteral("(D-4)"));
+    QCOMPARE(bars.op->operationStates(4), VNAnimatedOPTabBar::Locked);
+    bars.remove->click();
+    bars.remove->click();
+    bars.add->click();
+    QCOMPARE(bars.plainTexts().last(), QStringLiteral("(D-3)"));
+    QCOMPARE(bars.texts(bars.op).last(), QStringLiteral("(D-3)"));
+}
+
+void TestAnimatedTabBar::removeOnEmptyBarsIsHarmless()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    bars.plain->setCurrentIndex(3);
+    bars.remove->click();
+    QCOMPARE(bars.currents(), QList<int>({2, 2, 2}));
+    for (int i = 0; i < 5; ++i)
+        bars.remove->click();
+    QCOMPARE(bars.plain->count(), 0);
+    QCOMPARE(bars.animated->count(), 0);
+    QCOMPARE(bars.op->count(), 0);
+    QCOMPARE(bars.animated->currentIndex(), -1);
+    bars.add->click();
+    QCOMPARE(bars.plain->tabText(0), QStringLiteral("(D-0)"));
+    QCOMPARE(bars.currents(), QList<int>({0, 0, 0}));
+}
+
+void TestAnimatedTabBar::closeRemovesFromAnimatedBarsOnly()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    dialog.resize(600, 300);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QSignalSpy closed(bars.op, &VNAnimatedTabBar::closeButtonClicked);
+    QTest::mouseClick(bars.op, Qt::LeftButton, {}, bars.op->closeButtonRect(2).center());
+    QCOMPARE(closed.count(), 1);
+    QCOMPARE(bars.plainTexts(), sampleTabs);
+    QCOMPARE(bars.texts(bars.animated), QStringList({"PL", "(F-40)", "(T40)"}));
+    QCOMPARE(bars.texts(bars.op), QStringList({"PL", "(F-40)", "(T40)"}));
+    QCOMPARE(bars.op->operationStates(2), VNAnimatedOPTabBar::Skipped);
+}
+
+void TestAnimatedTabBar::arrowsSwitchAndMirror()
+{
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    QCOMPARE(bars.op->imageAfterTabs(), QStringLiteral(":/Style/VnWidgets/VNOPTabBar/op_tab_triangle.svg"));
+    bars.op->resize(500, 30);
+    const QImage withArrows = bars.op->grab().toImage();
+    bars.mirror->click();
+    QVERIFY(bars.op->isImageAfterTabsMirrored());
+    QVERIFY(bars.op->grab().toImage() != withArrows);
+    bars.arrows->click();
+    QCOMPARE(bars.op->imageAfterTabs(), QString());
+    QVERIFY(!bars.op->hasImageAfterTab(1));
+    bars.arrows->click();
+    QVERIFY(bars.op->hasImageAfterTab(1));
+}
+
+void TestAnimatedTabBar::indicatorSlides()
+{
+    VNAnimatedTabBar bar;
+    for (const QString& text : sampleTabs)
+        bar.addTab(text);
+    bar.resize(400, 30);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    const QRectF start = bar.indicatorRect();
+    QCOMPARE(start.left(), qreal(bar.tabRect(0).left()));
+    bar.setCurrentIndex(3);
+    QVariantAnimation* animation = bar.indicatorAnimation();
+    QCOMPARE(animation->state(), QAbstractAnimation::Running);
+    animation->setCurrentTime(animation->duration() / 4);
+    const double between = bar.indicatorRect().left();
+    QVERIFY(between > start.left() && between < bar.tabRect(3).left());
+    animation->setCurrentTime(animation->duration());
+    QCOMPARE(bar.indicatorRect().left(), qreal(bar.tabRect(3).left()));
+    QCOMPARE(bar.indicatorRect().width(), qreal(bar.tabRect(3).width()));
+}
+
+void TestAnimatedTabBar::indexAtPosition()
+{
+    VNAnimatedTabBar bar;
+    bar.addTab(QStringLiteral("A"));
+    bar.addTab(QStringLiteral("B"));
+    bar.resize(400, 30);
+    QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(bar.tabRect(1).center())), 1);
+    QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(QPoint(390, 15))), -1);
+}
+
+void TestAnimatedTabBar::lockedOperationIsNotSelectable()
+{
+    VNAnimatedOPTabBar bar;
+    bar.addTab(QStringLiteral("OP10"));
+    bar.addTab(QStringLiteral("OP20"));
+    bar.addTab(QStringLiteral("OP30"));
+    bar.setOperationLocked(1, true);
+    bar.resize(400, 30);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
+    QCOMPARE(bar.currentIndex(), 0);
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(2).center());
+    QCOMPARE(bar.currentIndex(), 2);
+    bar.removeTab(0);
+    QCOMPARE(bar.operationStates(0), VNAnimatedOPTabBar::Locked);
+    QCOMPARE(bar.currentIndex(), 1);
+}
+
+void TestAnimatedTabBar::statusAndDarkStyleArePainted()
+{
+    VNAnimatedTabBar bar;
+    bar.addTab(QStringLiteral("A"));
+    bar.addTab(QStringLiteral("B"));
+    bar.resize(300, 30);
+    const QPoint probe = bar.tabRect(1).topLeft() + QPoint(4, 6);
+    const QColor plain = bar.grab().toImage().pixelColor(probe);
+    bar.setWidgetStatus(1, VNWidgetStatus::needInput);
+    QCOMPARE(bar.grab().toImage().pixelColor(probe), QColor(0xff, 0xd6, 0xd6));
+    bar.setWidgetStatus(1, VNWidgetStatus::undef);
+    QCOMPARE(bar.grab().toImage().pixelColor(probe), plain);
+    bar.setDarkStyle(1, true);
+    QVERIFY(bar.grab().toImage().pixelColor(probe).lightness() < 100);
+}
+
+void TestAnimatedTabBar::firstTabKeepsPreferredWidth()
+{
+    VNAnimatedTabBar bar;
+    for (int i = 0; i < 8; ++i)
+        bar.addTab(QStringLiteral("Operation %1").arg(i));
+    bar.resize(2000, 30);
+    const int preferred = bar.tabRect(0).width();
+    bar.resize(300, 30);
+    QVERIFY(bar.tabRect(0).width() < preferred);
+    bar.setFixFirstWidthPreferred(true);
+    QCOMPARE(bar.tabRect(0).width(), preferred);
+    QVERIFY(bar.tabRect(1).width() < preferred);
+}
+
+QTEST_MAIN(TestAnimatedTabBar)
+#include "tst_animatedtabbar.moc"

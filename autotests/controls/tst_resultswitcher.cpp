@@ -1,0 +1,198 @@
+#include "TestAdvancedMenu.h"
+#include "TestModuleNavigation.h"
+#include "TestProgressComposition.h"
+#include "TestVNAnimatedTabBar.h"
+#include "TestVNResultSwitcher.h"
+#include "TestWidgetCollection.h"
+
+#include <VNFixedFontSizeToolButton.h>
+#include <VNLabel.h>
+#include <VNResultSwitcher.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QMenu>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+QStringList buttonTexts(const VNResultSwitcher* switcher)
+{
+    QStringList texts;
+    for (int i = 0; i < switcher->count(); ++i)
+        texts.append(switcher->button(i)->toolTip());
+    return texts;
+}
+} // namespace
+
+class TestResultSwitcher : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void form_data();
+    void form();
+    void insertionOrder();
+    void menusOnButtons();
+    void partsAreSeparated();
+    void enableCheckBoxReachesEveryButton();
+    void countsAreNotRefreshed();
+    void buttonsAreExclusive();
+    void fixedFontSizeIgnoresParentFont();
+    void launcherOpensNewSwitcherEveryClick();
+};
+
+void TestResultSwitcher::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestResultSwitcher::form_data()
+{
+    QTest::addColumn<QString>("switcher");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("count");
+    QTest::newRow("single") << "m_resultSwitcherSingle"
+                            << "m_countSingle"
+                            << "1";
+    QTest::newRow("menus") << "m_resultSwitcher"
+                           << "m_count"
+                           << "4";
+    QTest::newRow("multi") << "m_resultSwitcherMulti"
+                           << "m_countMulti"
+                           << "10";
+}
+
+void TestResultSwitcher::form()
+{
+    QFETCH(QString, switcher);
+    QFETCH(QString, label);
+    QFETCH(QString, count);
+    TestVNResultSwitcher dialog(nullptr);
+    QCOMPARE(dialog.objectName(), QStringLiteral("TestVNResultSwitcher"));
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestVNResultSwitcher"));
+    QVERIFY(dialog.findChild<VNResultSwitcher*>(switcher));
+    QCOMPARE(dialog.findChild<VNLabel*>(label)->text(), count);
+    auto* enable = dialog.findChild<QCheckBox*>("m_enableCB");
+    QCOMPARE(enable->text(), QStringLiteral("Set Enabled"));
+    QVERIFY(enable->isChecked());
+}
+
+void TestResultSwitcher::insertionOrder()
+{
+    TestVNResultSwitcher dialog(nullptr);
+    QCOMPARE(buttonTexts(dialog.findChild<VNResultSwitcher*>("m_resultSwitcherSingle")), QStringList({"Zebra"}));
+    auto* switcher = dialog.findChild<VNResultSwitcher*>("m_resultSwitcher");
+    QCOMPARE(buttonTexts(switcher), QStringList({"Test 0", "Test 1", "Test 2", "Test 3"}));
+    QVERIFY(qobject_cast<VNFixedFontSizeToolButton*>(switcher->button(2)));
+    QCOMPARE(switcher->button(2)->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    auto* multi = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherMulti");
+    QCOMPARE(buttonTexts(multi).last(), QStringLiteral("Test 9"));
+    QCOMPARE(multi->part(4), 0);
+    QCOMPARE(multi->part(5), 1);
+}
+
+void TestResultSwitcher::menusOnButtons()
+{
+    TestVNResultSwitcher dialog(nullptr);
+    auto* switcher = dialog.findChild<VNResultSwitcher*>("m_resultSwitcher");
+    const bool hasMenu[] = {false, true, false, true};
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(switcher->button(i)->menu() != nullptr, hasMenu[i]);
+        if (hasMenu[i]) {
+            QCOMPARE(switcher->button(i)->popupMode(), QToolButton::MenuButtonPopup);
+            QCOMPARE(switcher->button(i)->menu()->actions().first()->text(), QStringLiteral("Action 2"));
+        }
+    }
+}
+
+void TestResultSwitcher::partsAreSeparated()
+{
+    TestVNResultSwitcher dialog(nullptr);
+    dialog.resize(500, 265);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* multi = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherMulti");
+    const int inside = multi->button(4)->geometry().left() - multi->button(3)->geometry().right();
+    const int between = multi->button(5)->geometry().left() - multi->button(4)->geometry().right();
+    QVERIFY(between >= inside + VNResultSwitcher::partGap);
+}
+
+void TestResultSwitcher::enableCheckBoxReachesEveryButton()
+{
+    TestVNResultSwitcher dialog(nullptr);
+    auto* enable = dialog.findChild<QCheckBox*>("m_enableCB");
+    const QList<QToolButton*> buttons = dialog.findChildren<QToolButton*>("resultButton");
+    QCOMPARE(buttons.size(), 15);
+    enable->click();
+    for (QToolButton* button : buttons)
+        QVERIFY(!button->isEnabled());
+    enable->click();
+    for (QToolButton* button : buttons)
+        QVERIFY(button->isEnabled());
+}
+
+void TestResultSwitcher::countsAreNotRefreshed()
+{
+    TestVNResultSwitcher dialog(nullptr);
+    auto* single = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherSingle");
+    addZebraButton(single);
+    QCOMPARE(single->count(), 2);
+    QCOMPARE(dialog.findChild<VNLabel*>("m_countSingle")->text(), QStringLiteral("1"));
+}
+
+void TestResultSwitcher::buttonsAreExclusive()
+{
+    VNResultSwitcher switcher;
+    for (int i = 0; i < 3; ++i)
+        switcher.insertButton(QIcon(), QString::number(i), -1, 0);
+    QCOMPARE(switcher.checkedIndex(), 0);
+    switcher.button(2)->click();
+    QCOMPARE(switcher.checkedIndex(), 2);
+    QVERIFY(!switcher.button(0)->isChecked());
+    switcher.setItemWidgetStatus(1, VNWidgetStatus::needInput);
+    QCOMPARE(switcher.button(1)->property("statusLook").toString(), QStringLiteral("needInput"));
+}
+
+void TestResultSwitcher::fixedFontSizeIgnoresParentFont()
+{
+    QWidget parent;
+    VNFixedFontSizeToolButton button(&parent, 3);
+    QCOMPARE(button.font().pointSize(), 10);
+    QFont big = parent.font();
+    big.setPointSize(20);
+    parent.setFont(big);
+    QCOMPARE(button.font().pointSize(), 10);
+}
+
+template<typename Window>
+int windows(const QWidget& panel)
+{
+    return panel.findChildren<Window*>(QString(), Qt::FindDirectChildrenOnly).size();
+}
+
+void TestResultSwitcher::launcherOpensNewSwitcherEveryClick()
+{
+    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
+    for (const char* name : {"m_vnResultSwitcher", "testVNAdvancedMenu", "m_testAnimatedTabBar",
+                             "testVNModuleNavigation", "m_progressTest"}) {
+        QPushButton* button = panel.findChild<QPushButton*>(QLatin1String(name));
+        QVERIFY2(button, name);
+        button->click();
+        button->click();
+    }
+    QCOMPARE(windows<TestVNResultSwitcher>(panel), 2);
+    QCOMPARE(windows<TestAdvancedMenu>(panel), 1);
+    QCOMPARE(windows<TestVNAnimatedTabBar>(panel), 1);
+    QCOMPARE(windows<TestModuleNavigation>(panel), 1);
+    QCOMPARE(windows<TestProgressComposition>(panel), 1);
+    for (auto* window : panel.findChildren<TestVNResultSwitcher*>())
+        QVERIFY(window->isVisible());
+}
+
+QTEST_MAIN(TestResultSwitcher)
+#include "tst_resultswitcher.moc"

@@ -1,0 +1,110 @@
+#include "TestModuleNavigation.h"
+
+#include <VNModuleNavigation.h>
+
+#include <QApplication>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+QStringList modules(const VNModuleNavigation* navigation)
+{
+    QStringList texts;
+    for (int i = 0; i < navigation->count(); ++i)
+        texts.append(navigation->buttonText(i));
+    return texts;
+}
+
+const QStringList normalSet = {"Nose", "Adjust", "Clamp", "Apron", "Adjust", "Edgetest", "Shapetest"};
+const QStringList compactSet = {"Nose", "Adjust", "Clamp", "PX", "Edgetest", "Shapetest"};
+} // namespace
+
+class TestModuleNavigationDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void initialModules();
+    void switchToCompactSet();
+    void twoClicksRestoreTheOriginal();
+    void lockedModuleCannotBeChosen();
+    void groupButtonSpansItsModules();
+};
+
+void TestModuleNavigationDialog::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestModuleNavigationDialog::initialModules()
+{
+    TestModuleNavigation dialog(nullptr);
+    auto* navigation = dialog.findChild<VNModuleNavigation*>("m_moduleNavigation");
+    QVERIFY(navigation);
+    QCOMPARE(modules(navigation), normalSet);
+    QCOMPARE(navigation->groupButtonRange(0), qMakePair(3, 4));
+    QCOMPARE(navigation->groupButton(0)->text(), QStringLiteral("Switch to PX"));
+    QVERIFY(!navigation->groupButton(0)->isChecked());
+    QVERIFY(!navigation->isModuleLocked(1));
+}
+
+void TestModuleNavigationDialog::switchToCompactSet()
+{
+    TestModuleNavigation dialog(nullptr);
+    auto* navigation = dialog.findChild<VNModuleNavigation*>("m_moduleNavigation");
+    navigation->groupButton(0)->click();
+    QVERIFY(dialog.isCompactSetShown());
+    QCOMPARE(modules(navigation), compactSet);
+    QCOMPARE(navigation->groupButtonRange(0), qMakePair(3, 3));
+    QCOMPARE(navigation->groupButton(0)->text(), QStringLiteral("Switch to RX"));
+    QVERIFY(navigation->groupButton(0)->isChecked());
+    QVERIFY(navigation->isModuleLocked(1));
+    QVERIFY(!navigation->button(1)->isEnabled());
+}
+
+void TestModuleNavigationDialog::twoClicksRestoreTheOriginal()
+{
+    TestModuleNavigation dialog(nullptr);
+    auto* navigation = dialog.findChild<VNModuleNavigation*>("m_moduleNavigation");
+    navigation->groupButton(0)->click();
+    navigation->groupButton(0)->click();
+    // The way back inserts "Adjust" before "Apron": the same seven modules, the last two swapped.
+    QCOMPARE(modules(navigation), QStringList({"Nose", "Adjust", "Clamp", "Adjust", "Apron", "Edgetest", "Shapetest"}));
+    QStringList sorted = modules(navigation);
+    sorted.sort();
+    QStringList original = normalSet;
+    original.sort();
+    QCOMPARE(sorted, original);
+    QVERIFY(!navigation->isModuleLocked(1));
+    QVERIFY(navigation->button(1)->isEnabled());
+    QCOMPARE(navigation->groupButtonRange(0), qMakePair(3, 4));
+    QCOMPARE(navigation->findChildren<QToolButton*>("groupButton").size(), 1);
+}
+
+void TestModuleNavigationDialog::lockedModuleCannotBeChosen()
+{
+    VNModuleNavigation navigation;
+    navigation.addButton(QStringLiteral("A"));
+    navigation.addButton(QStringLiteral("B"));
+    navigation.setModuleLocked(1, true);
+    navigation.setCurrentIndex(1);
+    QCOMPARE(navigation.currentIndex(), -1);
+    navigation.setCurrentIndex(0);
+    QCOMPARE(navigation.currentIndex(), 0);
+}
+
+void TestModuleNavigationDialog::groupButtonSpansItsModules()
+{
+    TestModuleNavigation dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* navigation = dialog.findChild<VNModuleNavigation*>("m_moduleNavigation");
+    const QRect group = navigation->groupButton(0)->geometry();
+    QCOMPARE(group.left(), navigation->button(3)->geometry().left());
+    QCOMPARE(group.right(), navigation->button(4)->geometry().right());
+}
+
+QTEST_MAIN(TestModuleNavigationDialog)
+#include "tst_modulenavigation.moc"

@@ -1,0 +1,230 @@
+#include "TestProgressComposition.h"
+
+#include <VNMultiProgressBar.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimerEvent>
+
+namespace {
+struct Form
+{
+    explicit Form(QWidget* dialog)
+        : bar(dialog->findChild<VNMultiProgressBar*>("m_multiProgress"))
+        , ops(dialog->findChild<QSpinBox*>("m_ops"))
+        , prefix(dialog->findChild<QLineEdit*>("m_prefix"))
+        , current(dialog->findChild<QSpinBox*>("m_current"))
+        , circular(dialog->findChild<QCheckBox*>("m_circular"))
+        , stretchMode(dialog->findChild<QComboBox*>("stretchMode"))
+    {}
+
+    QPushButton* button(QWidget* dialog, const char* name) const { return dialog->findChild<QPushButton*>(name); }
+
+    VNMultiProgressBar* bar;
+    QSpinBox* ops;
+    QLineEdit* prefix;
+    QSpinBox* current;
+    QCheckBox* circular;
+    QComboBox* stretchMode;
+};
+
+// One tick of the dialog's animation timer, without waiting for it.
+void tick(TestProgressComposition& dialog)
+{
+    QTimerEvent event(dialog.animationTimerId());
+    QCoreApplication::sendEvent(&dialog, &event);
+}
+} // namespace
+
+class TestProgressCompositionDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+
+    void form();
+    void setupBuildsNamedOperations();
+    void noOperationsAcceptOnlyMinusOne();
+    void linearAnimationFillsEveryOperation();
+    void circularAnimationMovesOnePerTick();
+    void manualChangeStopsAnimation();
+    void stopClearsCurrent();
+    void stretchModes_data();
+    void stretchModes();
+    void circularLookIsDrawn();
+};
+
+void TestProgressCompositionDialog::cleanup()
+{
+    QVERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void TestProgressCompositionDialog::form()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    QVERIFY(form.bar && form.ops && form.prefix && form.current && form.circular && form.stretchMode);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
+    QCOMPARE(form.ops->maximum(), 50);
+    QCOMPARE(form.ops->value(), 3);
+    QCOMPARE(form.current->minimum(), -1);
+    QVERIFY(form.circular->isChecked());
+    QVERIFY(form.bar->isCircular());
+    QCOMPARE(form.bar->minimumHeight(), 40);
+    QStringList modes;
+    for (int i = 0; i < form.stretchMode->count(); ++i)
+        modes.append(form.stretchMode->itemText(i));
+    QCOMPARE(modes, QStringList({"GaussianBell", "Constant", "Balance", "Manual"}));
+    const char* buttons[][2] = {{"setup", "Setup OP's"},    {"startAnimation", "Start"},
+                                {"stopAnimation", "Stop"},  {"step", "Step"},
+                                {"stepSingle", "Step +10"}, {"resizeDefault", "Designer Default"}};
+    for (const auto& button : buttons)
+        QCOMPARE(form.button(&dialog, button[0])->text(), QLatin1String(button[1]));
+    form.button(&dialog, "resizeDefault")->click();
+    QCOMPARE(dialog.width(), 450);
+}
+
+void TestProgressCompositionDialog::setupBuildsNamedOperations()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.prefix->setText(QStringLiteral("OP"));
+    form.button(&dialog, "setup")->click();
+    QCOMPARE(form.bar->progressItems(), QStringList({"OP10", "OP20", "OP30"}));
+    form.ops->setValue(5);
+    QCOMPARE(form.bar->progressItems().last(), QStringLiteral("OP50"));
+    QCOMPARE(form.current->value(), -1);
+}
+
+void TestProgressCompositionDialog::noOperationsAcceptOnlyMinusOne()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.ops->setValue(0);
+    QCOMPARE(form.bar->progressItemsCount(), 0);
+    form.current->setValue(2);
+    QCOMPARE(form.current->value(), -1);
+    QCOMPARE(form.bar->current(), -1);
+}
+
+void TestProgressCompositionDialog::linearAnimationFillsEveryOperation()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.circular->setChecked(false);
+    form.ops->setValue(2);
+    form.button(&dialog, "startAnimation")->click();
+    QVERIFY(dialog.animationTimerId() != 0);
+    QCOMPARE(form.bar->current(), 0);
+    for (int i = 0; i < 10; ++i)
+        tick(dialog);
+    QCOMPARE(form.bar->current(), 1);
+    QCOMPARE(form.current->value(), 1);
+    for (int i = 0; i < 10; ++i)
+        tick(dialog);
+    QCOMPARE(form.bar->currentStep(), 100);
+    QVERIFY(dialog.animationTimerId() != 0);
+    tick(dialog);
+    QCOMPARE(dialog.animationTimerId(), 0);
+    QCOMPARE(form.bar->current(), -1);
+}
+
+void TestProgressCompositionDialog::circularAnimationMovesOnePerTick()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.button(&dialog, "setup")->click();
+    form.button(&dialog, "startAnimation")->click();
+    QCOMPARE(form.bar->current(), 0);
+    tick(dialog);
+    tick(dialog);
+    QCOMPARE(form.bar->current(), 2);
+    tick(dialog);
+    QCOMPARE(form.bar->current(), -1);
+    QCOMPARE(dialog.animationTimerId(), 0);
+}
+
+void TestProgressCompositionDialog::manualChangeStopsAnimation()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.button(&dialog, "setup")->click();
+    form.button(&dialog, "startAnimation")->click();
+    form.button(&dialog, "step")->click();
+    QCOMPARE(dialog.animationTimerId(), 0);
+    QCOMPARE(form.bar->current(), 1);
+    form.button(&dialog, "startAnimation")->click();
+    form.current->setValue(0);
+    QCOMPARE(dialog.animationTimerId(), 0);
+    QCOMPARE(form.bar->current(), 0);
+    form.button(&dialog, "startAnimation")->click();
+    form.button(&dialog, "setup")->click();
+    QCOMPARE(dialog.animationTimerId(), 0);
+}
+
+void TestProgressCompositionDialog::stopClearsCurrent()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    form.button(&dialog, "setup")->click();
+    form.current->setValue(1);
+    form.button(&dialog, "stopAnimation")->click();
+    QCOMPARE(form.bar->current(), 1);
+    form.button(&dialog, "startAnimation")->click();
+    form.button(&dialog, "stopAnimation")->click();
+    QCOMPARE(form.bar->current(), -1);
+    QCOMPARE(form.current->value(), -1);
+}
+
+void TestProgressCompositionDialog::stretchModes_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("equal");
+    QTest::addColumn<bool>("fillsBar");
+    QTest::newRow("GaussianBell") << 0 << false << true;
+    QTest::newRow("Constant") << 1 << true << true;
+    QTest::newRow("Balance") << 2 << false << true;
+    QTest::newRow("Manual") << 3 << true << false;
+}
+
+void TestProgressCompositionDialog::stretchModes()
+{
+    QFETCH(int, mode);
+    QFETCH(bool, equal);
+    QFETCH(bool, fillsBar);
+    VNMultiProgressBar bar;
+    bar.resize(600, 30);
+    bar.setProgressItems({QStringLiteral("A"), QStringLiteral("Long operation name"), QStringLiteral("C")});
+    bar.setCurrent(0);
+    bar.setStretchMode(mode);
+    const QRectF first = bar.segmentRect(0);
+    const QRectF second = bar.segmentRect(1);
+    QCOMPARE(qAbs(first.width() - second.width()) < 0.5, equal);
+    QCOMPARE(bar.segmentRect(2).right() > 595, fillsBar);
+    if (mode == 0)
+        QVERIFY(first.width() > second.width());
+    if (mode == 2)
+        QVERIFY(second.width() > first.width());
+}
+
+void TestProgressCompositionDialog::circularLookIsDrawn()
+{
+    VNMultiProgressBar bar;
+    bar.resize(120, 120);
+    bar.setProgressItems({QStringLiteral("A"), QStringLiteral("B")});
+    bar.setCurrent(1);
+    const QImage row = bar.grab().toImage();
+    bar.setCircular(true);
+    const QImage ring = bar.grab().toImage();
+    QVERIFY(row != ring);
+    QVERIFY(bar.segmentRect(0).isNull());
+}
+
+QTEST_MAIN(TestProgressCompositionDialog)
+#include "tst_progresscomposition.moc"
