@@ -4,7 +4,11 @@
 #include "QtTraining.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
+#include "TestCompareIcons.h"
+#include "TestComposePixmap.h"
+#include "TestConverterUtility.h"
 #include "TestRegExp.h"
+#include "TestSVG.h"
 #include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
 #include "TestValueFields.h"
@@ -140,7 +144,10 @@ void TestWidgetCollection::on_testValueFields_clicked()
     showCached(m_testValueFields, this);
 }
 
-void TestWidgetCollection::on_testComposePixmap_clicked() {}
+void TestWidgetCollection::on_testComposePixmap_clicked()
+{
+    showCached(m_testComposePixmap, this);
+}
 
 void TestWidgetCollection::on_testFlipWidget_clicked() {}
 
@@ -167,7 +174,10 @@ void TestWidgetCollection::on_m_QtTraining_clicked()
     showCached(m_qtTraining, this);
 }
 
-void TestWidgetCollection::on_m_testSVG_clicked() {}
+void TestWidgetCollection::on_m_testSVG_clicked()
+{
+    showCached(m_testSVG, this);
+}
 
 void TestWidgetCollection::on_m_testAnimatedTabBar_clicked() {}
 
@@ -175,7 +185,10 @@ void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
 
 void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
 
-void TestWidgetCollection::on_m_compareIcons_clicked() {}
+void TestWidgetCollection::on_m_compareIcons_clicked()
+{
+    showCached(m_testCompareIcons, this);
+}
 
 void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
 
@@ -205,7 +218,10 @@ void TestWidgetCollection::on_m_testDragAndDrop_clicked() {}
 
 void TestWidgetCollection::on_m_progressTest_clicked() {}
 
-void TestWidgetCollection::on_m_converterTest_clicked() {}
+void TestWidgetCollection::on_m_converterTest_clicked()
+{
+    TestConverterUtility(this).run();
+}
 
 void TestWidgetCollection::on_m_testAlignment_clicked()
 {
