@@ -76,7 +76,11 @@ bool SVGImage::setSVGSource(const QString& source)
     QVector<TextItem> items;
     QSize size;
     QString error;
-    if (source.size() > maximumSourceSize || !parse(source, &items, &size, &error)) {
+    if (source.size() > maximumSourceSize) {
+        m_error = QCoreApplication::translate("SVGImage", "The text is too large for an SVG image");
+        return false;
+    }
+    if (!parse(source, &items, &size, &error)) {
         m_error = error;
         return false;
     }
@@ -97,8 +101,8 @@ void SVGImage::makeInvalid(const QString& source, const QString& error)
     m_error = error;
 }
 
-// Finds the text items with their raw ranges in the source. The reader's character offset after a
-// token is where the next token starts, so a run's range covers exactly its raw text.
+// Finds the text items with their raw ranges in the source, from the reader's character offsets
+// before and after each token, so that a run's range covers exactly its raw text.
 bool SVGImage::parse(const QString& source, QVector<TextItem>* items, QSize* defaultSize, QString* error) const
 {
     QXmlStreamReader reader(source);
@@ -145,8 +149,14 @@ bool SVGImage::parse(const QString& source, QVector<TextItem>* items, QSize* def
                     run.begin = int(tokenBegin);
                     inRun = true;
                 }
+                // The reader has already consumed the '<' of the markup that follows the text.
                 run.end = int(reader.characterOffset());
-                runText += token == QXmlStreamReader::Characters ? reader.text().toString() : QString();
+                if (run.end > run.begin && source.at(run.end - 1) == QLatin1Char('<'))
+                    --run.end;
+                if (token == QXmlStreamReader::EntityReference && reader.text().isEmpty())
+                    runText += QLatin1Char('&') + reader.name() + QLatin1Char(';');
+                else
+                    runText += reader.text();
             }
             break;
         case QXmlStreamReader::Comment:
