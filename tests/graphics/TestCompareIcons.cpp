@@ -87,6 +87,8 @@ void TestCompareIcons::exportImage()
     if (fileName.isEmpty())
         return;
     m_lastExportFolder = folderOf(fileName);
+    // A window that was never shown has not laid out its children yet.
+    layout()->activate();
     QPixmap pixmap(iconsWidget->size());
     iconsWidget->render(&pixmap, QPoint(), QRegion(), QWidget::DrawWindowBackground | QWidget::DrawChildren);
     const QString failure = savePixmapSafely(pixmap, fileName);

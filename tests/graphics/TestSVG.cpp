@@ -85,9 +85,11 @@ void TestSVG::removeItemRows()
             QLayoutItem* item = gridLayout->itemAtPosition(row, column);
             if (!item)
                 continue;
-            delete item->widget();
+            // Taken out of the layout first: a deleted widget would take its item with it.
+            QWidget* widget = item->widget();
             gridLayout->removeItem(item);
             delete item;
+            delete widget;
         }
     }
 }
