@@ -69,6 +69,7 @@ FileConverterDialog::FileConverterDialog(FileConverterConfigurationInterface* co
 
     m_messageList = new QListWidget(this);
     m_messageList->setObjectName(QStringLiteral("messages"));
+    m_messageList->setWordWrap(true);
     m_outcome = new QLabel(this);
     m_outcome->setObjectName(QStringLiteral("outcome"));
     m_outcome->setWordWrap(true);
