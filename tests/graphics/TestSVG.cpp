@@ -63,14 +63,15 @@ void TestSVG::rebuildView()
     m_defWidth->setText(QStringLiteral("%1 px").arg(size.width()));
     m_defHeight->setText(QStringLiteral("%1 px").arg(size.height()));
     m_textItems = m_svgImage->getTextItems();
-    // Hidden while the rows are added, so that the layout is computed once instead of per row.
+    // Hidden while the rows are added: the new widgets are then shown, and the window laid out,
+    // once for all rows instead of once per widget.
     const bool visible = replaceList->isVisible();
     if (visible)
-        replaceList->setUpdatesEnabled(false);
+        replaceList->hide();
     for (int index = 0; index < m_textItems.size(); ++index)
         addItemRow(index);
     if (visible)
-        replaceList->setUpdatesEnabled(true);
+        replaceList->show();
     applyAndRender();
 }
 
@@ -120,11 +121,30 @@ void TestSVG::addItemRow(int index)
     gridLayout->addWidget(replace, row, 3);
 }
 
+// The grid's widgets by row, found in one pass: looking up each position on its own would cost
+// a pass over all items per lookup.
+QVector<QWidget*> TestSVG::gridColumn(int column) const
+{
+    QVector<QWidget*> widgets(m_textItems.size() + 1, nullptr);
+    for (int index = 0; index < gridLayout->count(); ++index) {
+        int row = 0;
+        int itemColumn = 0;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        gridLayout->getItemPosition(index, &row, &itemColumn, &rowSpan, &columnSpan);
+        if (itemColumn == column && row < widgets.size())
+            widgets[row] = gridLayout->itemAt(index)->widget();
+    }
+    return widgets;
+}
+
 void TestSVG::applyAndRender()
 {
+    const QVector<QWidget*> types = gridColumn(1);
+    const QVector<QWidget*> replacements = gridColumn(3);
     for (int index = 0; index < m_textItems.size(); ++index) {
-        auto* type = qobject_cast<QComboBox*>(gridLayout->itemAtPosition(index + 1, 1)->widget());
-        auto* replace = qobject_cast<QLineEdit*>(gridLayout->itemAtPosition(index + 1, 3)->widget());
+        auto* type = qobject_cast<QComboBox*>(types.at(index + 1));
+        auto* replace = qobject_cast<QLineEdit*>(replacements.at(index + 1));
         const int data = type->currentData(Qt::UserRole).toInt();
         m_svgImage->setTextItem(index, replace->text());
         m_svgImage->setTextItemUsed(index, data != ignoreData);

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QStringList>
+#include <QVector>
 
 class SVGImage;
 
@@ -35,6 +36,7 @@ private:
     void removeItemRows();
     void addItemRow(int index);
     void applyAndRender();
+    QVector<QWidget*> gridColumn(int column) const;
 
     QStringList m_textItems;
     SVGImage* m_svgImage;
