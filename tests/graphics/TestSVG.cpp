@@ -7,6 +7,7 @@
 
 #include <QComboBox>
 #include <QFileDialog>
+#include <QMap>
 #include <QMessageBox>
 #include <QSignalBlocker>
 
@@ -75,23 +76,30 @@ void TestSVG::rebuildView()
     applyAndRender();
 }
 
-// The grid keeps its row count after items are removed, so the last used row is searched for.
+// Every item below the header row goes, from the last row up and from the last column to the
+// first. The grid keeps its row count after items are removed, so rows are found by their items,
+// in one pass over the layout (a lookup per position would pass over all items each time).
 void TestSVG::removeItemRows()
 {
-    int lastRow = gridLayout->rowCount() - 1;
-    while (lastRow > 0 && !gridLayout->itemAtPosition(lastRow, 0))
-        --lastRow;
-    for (int row = lastRow; row >= 1; --row) {
-        for (int column = gridLayout->columnCount() - 1; column >= 0; --column) {
-            QLayoutItem* item = gridLayout->itemAtPosition(row, column);
-            if (!item)
-                continue;
-            // Taken out of the layout first: a deleted widget would take its item with it.
-            QWidget* widget = item->widget();
-            gridLayout->removeItem(item);
-            delete item;
-            delete widget;
-        }
+    QMap<QPair<int, int>, int> itemRows; // (row, column) -> layout index
+    for (int index = 0; index < gridLayout->count(); ++index) {
+        int row = 0;
+        int column = 0;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        gridLayout->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
+        if (row >= 1)
+            itemRows.insert(qMakePair(row, column), index);
+    }
+    QList<QLayoutItem*> items;
+    for (const int index : qAsConst(itemRows))
+        items.prepend(gridLayout->itemAt(index));
+    for (QLayoutItem* item : qAsConst(items)) {
+        // Taken out of the layout first: a deleted widget would take its item with it.
+        QWidget* widget = item->widget();
+        gridLayout->removeItem(item);
+        delete item;
+        delete widget;
     }
 }
 
