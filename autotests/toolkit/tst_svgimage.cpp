@@ -1,4 +1,5 @@
 #include <SVGImage.h>
+#include <SVGImageConfiguration.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -35,6 +36,7 @@ private slots:
     void invalidSources();
     void failedSetKeepsTheImage();
     void invalidFiles();
+    void embeddedHtmlImage();
 };
 
 void TestSVGImage::textItems_data()
@@ -190,8 +192,26 @@ void TestSVGImage::invalidFiles()
         QCOMPARE(image.getDefaultSize(), QSize(0, 0));
     }
     QCOMPARE(image.getSource(), QString()); // the missing file has no source
+    QFile huge(dir.filePath("huge.svg"));   // 50 MB: refused before it is read
+    QVERIFY(huge.open(QIODevice::WriteOnly) && huge.resize(50 * 1024 * 1024));
+    huge.close();
+    QVERIFY(!image.loadSVG(huge.fileName()));
+    QVERIFY(image.errorString().contains("too large"));
     image.loadSVG(truncated);
     QCOMPARE(image.getSource(), svg("<text>cut")); // a malformed text file keeps its text
+}
+
+void TestSVGImage::embeddedHtmlImage()
+{
+    QPixmap pixmap(6, 4);
+    pixmap.fill(Qt::red);
+    const QString html = SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(pixmap);
+    QVERIFY(html.startsWith("<img src=\"data:image/png;base64,"));
+    QVERIFY(html.endsWith("\" width=\"6\" height=\"4\">"));
+    const int start = html.indexOf(',') + 1;
+    const QByteArray png = QByteArray::fromBase64(html.mid(start, html.indexOf('"', start) - start).toLatin1());
+    QCOMPARE(QImage::fromData(png, "PNG").pixelColor(5, 3), QColor(Qt::red));
+    QVERIFY(SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(QPixmap()).isEmpty());
 }
 
 QTEST_MAIN(TestSVGImage)
