@@ -125,6 +125,16 @@ bool SVGImage::parse(const QString& source, QVector<TextItem>* items, QSize* def
         tokenBegin = reader.characterOffset();
         const QXmlStreamReader::TokenType token = reader.readNext();
         switch (token) {
+        case QXmlStreamReader::DTD:
+            // Markup that comes out of an entity has no place of its own in the source, so text
+            // items inside it could not be written back.
+            for (const QXmlStreamEntityDeclaration& entity : reader.entityDeclarations()) {
+                if (entity.value().contains(QLatin1Char('<'))) {
+                    *error = QCoreApplication::translate("SVGImage", "Entities that contain markup are not supported");
+                    return false;
+                }
+            }
+            break;
         case QXmlStreamReader::StartElement:
             closeRun();
             if (!rootSeen && reader.name() != QLatin1String("svg")) {

@@ -20,7 +20,8 @@
 //
 // An image is valid when its source is well-formed XML with an <svg> root that QSvgRenderer
 // accepts. Sources larger than maximumSourceSize, binary data, nesting deeper than
-// maximumNestingDepth and entity expansion beyond the reader's limit are refused as invalid. An
+// maximumNestingDepth, entities that contain markup and entity expansion beyond the reader's limit
+// are refused as invalid. An
 // invalid image has no text items, a default size of 0 x 0, and renders a null pixmap.
 class VNAPPWIDGETS_EXPORT SVGImage
 {
