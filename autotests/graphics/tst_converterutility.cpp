@@ -12,6 +12,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QToolButton>
 
 namespace {
 QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
@@ -29,6 +30,40 @@ QStringList validMessages()
         messages << QStringLiteral("In Progress... step %1/10").arg(step);
     return messages << "Convertion Finished - Yippie :-)";
 }
+
+// The frame with its file dialogs answered by the test, which records what they were asked.
+class FrameUnderTest : public Varnis::FileConverterDialog
+{
+public:
+    FrameUnderTest()
+        : FileConverterDialog(new Varnis::TestConverterConfig, "title", "description")
+    {}
+    QString answer;
+    QStringList asked;
+
+protected:
+    QString askForInputFile(const QString& caption, const QString& startPath, const QString& filter) override
+    {
+        asked = QStringList{caption, startPath, filter};
+        return answer;
+    }
+    QString askForOutputDirectory(const QString& caption, const QString& startDirectory) override
+    {
+        asked = QStringList{caption, startDirectory};
+        return answer;
+    }
+};
+
+// Counts the paintings of a widget.
+struct PaintCounter : QObject
+{
+    int paints = 0;
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+};
 } // namespace
 
 class TestConverterUtilityFrame : public QObject
@@ -43,6 +78,8 @@ private slots:
     void conversion_data();
     void conversion();
     void incompleteChoices();
+    void pickersUseTheConfiguration();
+    void messagesArePaintedWhileTheConverterBlocks();
     void launcherOpensANewFrameEachClick();
 };
 
@@ -127,6 +164,35 @@ void TestConverterUtilityFrame::incompleteChoices()
     QVERIFY(frame->findChild<QLabel*>("outcome")->text().contains("/no/such/directory"));
     frame->setOutputDirectory(QString());
     QVERIFY(!frame->findChild<QPushButton*>("convert")->isEnabled());
+}
+
+void TestConverterUtilityFrame::pickersUseTheConfiguration()
+{
+    FrameUnderTest frame;
+    frame.setInputFile("/data/in.txt");
+    frame.answer = "/data/other.txt";
+    frame.findChild<QToolButton*>("chooseInputFile")->click();
+    QCOMPARE(frame.asked, (QStringList{"Select test input file", "/data/in.txt", "Text files (*.txt)"}));
+    QCOMPARE(frame.inputFile(), QStringLiteral("/data/other.txt"));
+    frame.answer.clear(); // cancelled
+    frame.findChild<QToolButton*>("chooseOutputDirectory")->click();
+    QCOMPARE(frame.asked.value(0), QStringLiteral("Select test output directory"));
+    QCOMPARE(frame.inputFile(), QStringLiteral("/data/other.txt"));
+    QCOMPARE(QSettings().value("FileConverter/Test/inputFile").toString(), QStringLiteral("/data/other.txt"));
+}
+
+void TestConverterUtilityFrame::messagesArePaintedWhileTheConverterBlocks()
+{
+    QTemporaryDir dir;
+    FrameUnderTest frame;
+    frame.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&frame));
+    frame.setInputFile(writeFile(dir, "in.txt", "data"));
+    frame.setOutputDirectory(dir.path());
+    PaintCounter counter;
+    frame.findChild<QListWidget*>("messages")->viewport()->installEventFilter(&counter);
+    QCOMPARE(frame.convert(), 0);
+    QCOMPARE(counter.paints, 12); // one per message, although the event loop never ran
 }
 
 // The frame is shown and the click returns: the panel is never blocked by it.

@@ -200,7 +200,7 @@ void FileConverterDialog::chooseInputFile()
     m_configuration->getInputFileSettings(caption, filter, key);
     const QString start = m_inputFile->text().isEmpty() ? QSettings().value(settingsKey(key, inputEntry)).toString()
                                                         : m_inputFile->text();
-    const QString path = QFileDialog::getOpenFileName(this, caption, start, filter);
+    const QString path = askForInputFile(caption, start, filter);
     if (path.isEmpty())
         return;
     setInputFile(path);
@@ -215,11 +215,21 @@ void FileConverterDialog::chooseOutputDirectory()
     const QString start = m_outputDirectory->text().isEmpty()
                               ? QSettings().value(settingsKey(key, outputEntry)).toString()
                               : m_outputDirectory->text();
-    const QString path = QFileDialog::getExistingDirectory(this, caption, start);
+    const QString path = askForOutputDirectory(caption, start);
     if (path.isEmpty())
         return;
     setOutputDirectory(path);
     QSettings().setValue(settingsKey(key, outputEntry), path);
+}
+
+QString FileConverterDialog::askForInputFile(const QString& caption, const QString& startPath, const QString& filter)
+{
+    return QFileDialog::getOpenFileName(this, caption, startPath, filter);
+}
+
+QString FileConverterDialog::askForOutputDirectory(const QString& caption, const QString& startDirectory)
+{
+    return QFileDialog::getExistingDirectory(this, caption, startDirectory);
 }
 
 void FileConverterDialog::showOutcome(const QString& text, bool success)

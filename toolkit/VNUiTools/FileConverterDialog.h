@@ -55,6 +55,12 @@ public slots:
 signals:
     void conversionFinished(int status);
 
+protected:
+    // The file dialogs, replaceable so that tests never wait for a user; an empty result means
+    // that the user cancelled.
+    virtual QString askForInputFile(const QString& caption, const QString& startPath, const QString& filter);
+    virtual QString askForOutputDirectory(const QString& caption, const QString& startDirectory);
+
 private:
     void chooseInputFile();
     void chooseOutputDirectory();
