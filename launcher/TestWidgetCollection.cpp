@@ -6,10 +6,14 @@
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
 #include "TestComboBox.h"
+#include "TestCompareIcons.h"
+#include "TestComposePixmap.h"
+#include "TestConverterUtility.h"
 #include "TestCurveInputControl.h"
 #include "TestModuleNavigation.h"
 #include "TestProgressComposition.h"
 #include "TestRegExp.h"
+#include "TestSVG.h"
 #include "TestStringReducer.h"
 #include "TestVNAnimatedTabBar.h"
 #include "TestVNMessageBox.h"
@@ -161,7 +165,10 @@ void TestWidgetCollection::on_testValueFields_clicked()
     showCached(m_testValueFields, this);
 }
 
-void TestWidgetCollection::on_testComposePixmap_clicked() {}
+void TestWidgetCollection::on_testComposePixmap_clicked()
+{
+    showCached(m_testComposePixmap, this);
+}
 
 void TestWidgetCollection::on_testFlipWidget_clicked() {}
 
@@ -188,7 +195,10 @@ void TestWidgetCollection::on_m_QtTraining_clicked()
     showCached(m_qtTraining, this);
 }
 
-void TestWidgetCollection::on_m_testSVG_clicked() {}
+void TestWidgetCollection::on_m_testSVG_clicked()
+{
+    showCached(m_testSVG, this);
+}
 
 void TestWidgetCollection::on_m_testAnimatedTabBar_clicked()
 {
@@ -199,7 +209,10 @@ void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
 
 void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
 
-void TestWidgetCollection::on_m_compareIcons_clicked() {}
+void TestWidgetCollection::on_m_compareIcons_clicked()
+{
+    showCached(m_testCompareIcons, this);
+}
 
 void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
 
@@ -248,7 +261,10 @@ void TestWidgetCollection::on_m_progressTest_clicked()
     showCached(m_testProgressComposition, this);
 }
 
-void TestWidgetCollection::on_m_converterTest_clicked() {}
+void TestWidgetCollection::on_m_converterTest_clicked()
+{
+    TestConverterUtility(this).run();
+}
 
 void TestWidgetCollection::on_m_testAlignment_clicked()
 {
