@@ -4,6 +4,11 @@
 #include "QtTraining.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
+#include "TestDisclosure.h"
+#include "TestFlipWidget.h"
+#include "TestInfoArea.h"
+#include "TestLayoutExample.h"
+#include "TestLayoutHelper.h"
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
@@ -142,7 +147,10 @@ void TestWidgetCollection::on_testValueFields_clicked()
 
 void TestWidgetCollection::on_testComposePixmap_clicked() {}
 
-void TestWidgetCollection::on_testFlipWidget_clicked() {}
+void TestWidgetCollection::on_testFlipWidget_clicked()
+{
+    showCached(m_testFlipWidget, this);
+}
 
 void TestWidgetCollection::on_testColorDisplay_clicked()
 {
@@ -158,7 +166,10 @@ void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
 
 void TestWidgetCollection::on_m_testTreeItemDelegate_clicked() {}
 
-void TestWidgetCollection::on_m_testLayouts_clicked() {}
+void TestWidgetCollection::on_m_testLayouts_clicked()
+{
+    showCached(m_testLayoutExample, this);
+}
 
 void TestWidgetCollection::on_m_testSquish_clicked() {}
 
@@ -171,7 +182,10 @@ void TestWidgetCollection::on_m_testSVG_clicked() {}
 
 void TestWidgetCollection::on_m_testAnimatedTabBar_clicked() {}
 
-void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
+void TestWidgetCollection::on_m_testLayoutHelper_clicked()
+{
+    showCached(m_testLayoutHelper, this);
+}
 
 void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
 
@@ -179,7 +193,10 @@ void TestWidgetCollection::on_m_compareIcons_clicked() {}
 
 void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
 
-void TestWidgetCollection::on_testDisclosure_clicked() {}
+void TestWidgetCollection::on_testDisclosure_clicked()
+{
+    showCached(m_testDisclosure, this);
+}
 
 void TestWidgetCollection::on_testVnSlider_clicked() {}
 
@@ -187,7 +204,10 @@ void TestWidgetCollection::on_testVNAdvancedMenu_clicked() {}
 
 void TestWidgetCollection::on_testCurveInputControl_clicked() {}
 
-void TestWidgetCollection::on_testInfoArea_clicked() {}
+void TestWidgetCollection::on_testInfoArea_clicked()
+{
+    showCached(m_testInfoArea, this);
+}
 
 void TestWidgetCollection::on_testVNModuleNavigation_clicked() {}
 
