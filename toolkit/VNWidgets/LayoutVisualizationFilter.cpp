@@ -130,7 +130,13 @@ void LayoutVisualizationOverlay::paintEvent(QPaintEvent*)
 
 void LayoutVisualizationOverlay::paintLayout(QPainter& painter, QLayout* layout) const
 {
-    const QRect outer = mapped(layout, layout->geometry());
+    QRect geometry = layout->geometry();
+    QWidget* owner = layout->parentWidget();
+    // A widget's own layout learns its rectangle only with a resize event, which a widget that
+    // was laid out while hidden may still wait for; its rectangle is the widget's.
+    if (owner && owner->layout() == layout)
+        geometry = owner->rect();
+    const QRect outer = mapped(layout, geometry);
     if (outer.isEmpty())
         return;
     const QRect inner = outer.marginsRemoved(layout->contentsMargins());

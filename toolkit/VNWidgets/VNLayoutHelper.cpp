@@ -29,14 +29,31 @@ void VNLayoutHelper::addLayout(QGridLayout* layout, QWidget* hint)
     entry.hint = hint;
     entry.column = labelColumn(entry);
     entry.ownMinimumWidth = layout->columnMinimumWidth(entry.column);
+    entry.ownLabelStretch = layout->columnStretch(entry.column);
+    bool anyStretch = false;
+    for (int column = 0; column < layout->columnCount(); ++column)
+        anyStretch = anyStretch || layout->columnStretch(column) > 0;
+    // Extra width must go to the fields, or the label column would end wherever the grid's
+    // width puts it.
+    layout->setColumnStretch(entry.column, 0);
+    if (!anyStretch && layout->columnCount() - 1 > entry.column) {
+        entry.fieldColumn = layout->columnCount() - 1;
+        entry.ownFieldStretch = layout->columnStretch(entry.fieldColumn);
+        layout->setColumnStretch(entry.fieldColumn, 1);
+    }
     m_entries.append(entry);
 }
 
 void VNLayoutHelper::removeAllLayouts()
 {
     for (const Entry& entry : qAsConst(m_entries)) {
-        if (entry.layout && entry.layout->columnMinimumWidth(entry.column) != entry.ownMinimumWidth)
+        if (!entry.layout)
+            continue;
+        if (entry.layout->columnMinimumWidth(entry.column) != entry.ownMinimumWidth)
             entry.layout->setColumnMinimumWidth(entry.column, entry.ownMinimumWidth);
+        entry.layout->setColumnStretch(entry.column, entry.ownLabelStretch);
+        if (entry.fieldColumn >= 0)
+            entry.layout->setColumnStretch(entry.fieldColumn, entry.ownFieldStretch);
     }
     m_entries.clear();
 }

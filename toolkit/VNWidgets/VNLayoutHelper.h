@@ -12,7 +12,8 @@ class QWidget;
 // Lines up the label columns of several separate grid layouts of one form, as if they were one
 // grid: after help(), the label column of every registered grid ends at the same x in the form.
 // The label column is column 0, or the column of the hint widget given with the layout. The
-// helper widens label columns only (through their minimum width) and aligns again whenever the
+// helper widens label columns only (through their minimum width), keeps them from growing with the
+// form (a grid without column stretch gets it on its last column) and aligns again whenever the
 // form is shown or resized, since the grids' positions are known only once the form is laid out.
 class VNWIDGETS_EXPORT VNLayoutHelper : public QObject
 {
@@ -44,6 +45,9 @@ private:
         QPointer<QWidget> hint;
         int column = 0;
         int ownMinimumWidth = 0;
+        int fieldColumn = -1;
+        int ownLabelStretch = 0;
+        int ownFieldStretch = 0;
     };
 
     int labelColumn(const Entry& entry) const;
