@@ -1,6 +1,5 @@
 #include "VNLayoutHelper.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QGridLayout>
 #include <QTimer>
@@ -130,17 +129,12 @@ void VNLayoutHelper::help()
     if (m_helping || !m_widget)
         return;
     m_helping = true;
-    // Widening one column can move the grids to its right; a few rounds settle every position.
-    for (int round = 0; round < 3; ++round) {
-        if (m_widget->layout())
-            m_widget->layout()->activate();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        if (!alignOnce())
-            break;
-    }
     if (m_widget->layout())
         m_widget->layout()->activate();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    // Widening a label column can move grids that sit to its right: look again once Qt has laid
+    // the form out anew (that second look changes nothing when everything lines up).
+    if (alignOnce())
+        scheduleHelp();
     m_helping = false;
 }
 

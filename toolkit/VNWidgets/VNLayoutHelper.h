@@ -29,7 +29,7 @@ public:
     void removeAllLayouts();
     int layoutCount() const { return m_entries.size(); }
 
-    // Aligns the label columns now.
+    // Aligns the label columns now (and checks once more after the form's next layout pass).
     void help();
 
     // Where the label column of the layout ends, in the coordinates of the helper's widget.
