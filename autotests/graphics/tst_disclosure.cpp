@@ -2,6 +2,7 @@
 
 #include <VNBarChart.h>
 #include <VNProgressiveDisclosure.h>
+#include <VNProgressiveDisclosureBtn.h>
 #include <VNProgressiveDisclosureGroup.h>
 #include <VNResizeableDisclosure.h>
 #include <VNStyleSheet.h>
@@ -45,6 +46,8 @@ private slots:
     void optionalCheckSwitches();
     void formPropertiesAndContent();
     void groupSingleMode();
+    void statusShowsOnHead_data();
+    void statusShowsOnHead();
     void resizeHandleChangesHeight();
     void barChartPaintsBars();
     void dialogNames_data();
@@ -179,6 +182,33 @@ void DisclosureTest::groupSingleMode()
     group.setGlobalSingleMode(false);
     disclosures[0]->setOpen(true);
     QCOMPARE(disclosures[2]->isOpen(), true);
+}
+
+void DisclosureTest::statusShowsOnHead_data()
+{
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QColor>("background");
+    QTest::newRow("needInput") << 0x20 << QColor(0xff, 0xd6, 0xd6);
+    QTest::newRow("userEdit") << 0x2 << QColor(0xdc, 0xeb, 0xff);
+    QTest::newRow("different") << 0x400 << QColor(0xff, 0xf1, 0xb8);
+}
+
+void DisclosureTest::statusShowsOnHead()
+{
+    QFETCH(int, status);
+    QFETCH(QColor, background);
+    VNProgressiveDisclosure disclosure;
+    disclosure.setWidgetCaption(QStringLiteral("Caption"));
+    disclosure.resize(300, 60);
+    disclosure.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&disclosure));
+    QWidget* head = disclosure.findChild<VNProgressiveDisclosureBtn*>();
+    const QPoint probe(head->width() - 4, head->height() / 2);
+    QVERIFY(QColor(head->grab().toImage().pixel(probe)) != background);
+    disclosure.setWidgetStatus(VNWidgetStatus::StatusFlags(status));
+    QCOMPARE(QColor(head->grab().toImage().pixel(probe)), background);
+    disclosure.setWidgetStatus(VNWidgetStatus::StatusFlags());
+    QVERIFY(QColor(head->grab().toImage().pixel(probe)) != background);
 }
 
 void DisclosureTest::resizeHandleChangesHeight()

@@ -2,6 +2,7 @@
 
 #include "VNDisclosureResizeHandle_p.h"
 #include "VNProgressiveDisclosureBtn.h"
+#include "VNWidgetStatus.h"
 
 #include <QCheckBox>
 #include <QDynamicPropertyChangeEvent>
@@ -65,6 +66,7 @@ void VNDisclosureResizeHandle::mouseMoveEvent(QMouseEvent* event)
 
 VNProgressiveDisclosure::VNProgressiveDisclosure(QWidget* parent)
     : QFrame(parent)
+    , VNWidgetInterface(this)
     , m_animation(new QVariantAnimation(this))
 {
     buildHead();
@@ -416,4 +418,9 @@ bool VNProgressiveDisclosure::event(QEvent* event)
         break;
     }
     return QFrame::event(event);
+}
+
+void VNProgressiveDisclosure::statusChanged()
+{
+    VNWidgetStatus::setStatusProperty(m_button, getWidgetStatus());
 }

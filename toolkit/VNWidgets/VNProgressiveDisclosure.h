@@ -1,5 +1,6 @@
 #pragma once
 
+#include "VNWidgetInterface.h"
 #include "vnwidgets_export.h"
 
 #include <QColor>
@@ -25,7 +26,10 @@ class VNProgressiveDisclosureBtn;
 //
 // Forms can set the dynamic properties "resizeAble" (the user can drag the content's height),
 // "showOptionalCheck" and "enableClientWidget" (the optional check is an enable switch).
-class VNWIDGETS_EXPORT VNProgressiveDisclosure : public QFrame
+//
+// A widget status (VNWidgetInterface) shows on the head, so that it stays visible while the
+// section is closed.
+class VNWIDGETS_EXPORT VNProgressiveDisclosure : public QFrame, public VNWidgetInterface
 {
     Q_OBJECT
     Q_PROPERTY(QString widgetCaption READ getWidgetCaption WRITE setWidgetCaption)
@@ -111,6 +115,7 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
+    void statusChanged() override;
 
 private:
     void buildHead();

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
+#include <QStyleOption>
 
 VNProgressiveDisclosureBtn::VNProgressiveDisclosureBtn(QWidget* parent)
     : QAbstractButton(parent)
@@ -42,6 +43,10 @@ QSize VNProgressiveDisclosureBtn::minimumSizeHint() const
 void VNProgressiveDisclosureBtn::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    // The style sheet paints the status look (statusLook) as the background.
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     painter.setRenderHint(QPainter::Antialiasing);
     // Scripts set WA_UnderMouse to get the hovered look without moving the mouse.
     if (testAttribute(Qt::WA_UnderMouse) && isEnabled())
