@@ -12,6 +12,7 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTextEdit>
+#include <QTranslator>
 
 namespace {
 template<typename T>
@@ -64,6 +65,7 @@ private slots:
     void myButtonSwapKeepsPlaceAndSettings();
     void mySizeIgnoredForPlainButton();
     void resetKeepsMyButton();
+    void policiesWorkTranslated();
 };
 
 void LayoutExampleTest::cleanup()
@@ -274,6 +276,25 @@ void LayoutExampleTest::resetKeepsMyButton()
     QVERIFY(!child<QCheckBox>(dialog, "useMyButton")->isChecked());
     QVERIFY(qobject_cast<MyButton*>(buttonUnderTest(dialog)));
     QCOMPARE(buttonUnderTest(dialog)->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+}
+
+// The policy and layout items are code names that the slots convert back: translations keep them.
+void LayoutExampleTest::policiesWorkTranslated()
+{
+    if (!TWC_HAS_MOCK_TRANSLATION)
+        QSKIP("built without lupdate and lrelease");
+    QTranslator translator;
+    QVERIFY(translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")));
+    QCoreApplication::installTranslator(&translator);
+    {
+        TestLayoutExample dialog(nullptr);
+        QVERIFY(child<QPushButton>(dialog, "resetBtn")->text() != QStringLiteral("Rest"));
+        QCOMPARE(child<QComboBox>(dialog, "comboLayout")->itemText(2), QStringLiteral("QGridLayout"));
+        QCOMPARE(buttonUnderTest(dialog)->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+        child<QComboBox>(dialog, "comboVSizePolicy")->setCurrentIndex(6);
+        QCOMPARE(buttonUnderTest(dialog)->sizePolicy().verticalPolicy(), QSizePolicy::Ignored);
+    }
+    QCoreApplication::removeTranslator(&translator);
 }
 
 QTEST_MAIN(LayoutExampleTest)
