@@ -164,8 +164,11 @@ void LayoutVisualizationOverlay::paintLayout(QPainter& painter, QLayout* layout)
     painter.setPen(Qt::NoPen);
     for (const QRect& band : QRegion(outer).subtracted(QRegion(inner)))
         painter.fillRect(band, QColor(255, 60, 60, 70));
-    for (const QRect& gap : gaps)
-        painter.fillRect(gap, QColor(255, 220, 0, 90));
+    // A layout whose items are all hidden (a flip widget while it turns) has no spacing to show.
+    if (gaps != QRegion(inner)) {
+        for (const QRect& gap : gaps)
+            painter.fillRect(gap, QColor(255, 220, 0, 90));
+    }
     painter.setBrush(QBrush(QColor(0, 160, 0, 120), Qt::BDiagPattern));
     for (const QRect& spacer : spacers)
         painter.drawRect(spacer);
