@@ -46,6 +46,7 @@ private slots:
     void optionalCheckSwitches();
     void formPropertiesAndContent();
     void groupSingleMode();
+    void colorBox();
     void statusShowsOnHead_data();
     void statusShowsOnHead();
     void resizeHandleChangesHeight();
@@ -182,6 +183,19 @@ void DisclosureTest::groupSingleMode()
     group.setGlobalSingleMode(false);
     disclosures[0]->setOpen(true);
     QCOMPARE(disclosures[2]->isOpen(), true);
+}
+
+void DisclosureTest::colorBox()
+{
+    VNProgressiveDisclosure disclosure;
+    disclosure.show();
+    QWidget* box = part(disclosure, "colorBox");
+    QVERIFY(!box->isVisible());
+    disclosure.setColorBox(QColor(255, 0, 255));
+    QVERIFY(box->isVisible());
+    QCOMPARE(QColor(box->grab().toImage().pixel(box->width() / 2, box->height() / 2)), QColor(255, 0, 255));
+    disclosure.setColorBox(QColor());
+    QVERIFY(!box->isVisible());
 }
 
 void DisclosureTest::statusShowsOnHead_data()
