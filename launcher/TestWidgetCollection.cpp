@@ -10,6 +10,11 @@
 #include "TestComposePixmap.h"
 #include "TestConverterUtility.h"
 #include "TestCurveInputControl.h"
+#include "TestDisclosure.h"
+#include "TestFlipWidget.h"
+#include "TestInfoArea.h"
+#include "TestLayoutExample.h"
+#include "TestLayoutHelper.h"
 #include "TestModuleNavigation.h"
 #include "TestProgressComposition.h"
 #include "TestRegExp.h"
@@ -170,7 +175,10 @@ void TestWidgetCollection::on_testComposePixmap_clicked()
     showCached(m_testComposePixmap, this);
 }
 
-void TestWidgetCollection::on_testFlipWidget_clicked() {}
+void TestWidgetCollection::on_testFlipWidget_clicked()
+{
+    showCached(m_testFlipWidget, this);
+}
 
 void TestWidgetCollection::on_testColorDisplay_clicked()
 {
@@ -186,7 +194,10 @@ void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
 
 void TestWidgetCollection::on_m_testTreeItemDelegate_clicked() {}
 
-void TestWidgetCollection::on_m_testLayouts_clicked() {}
+void TestWidgetCollection::on_m_testLayouts_clicked()
+{
+    showCached(m_testLayoutExample, this);
+}
 
 void TestWidgetCollection::on_m_testSquish_clicked() {}
 
@@ -205,7 +216,10 @@ void TestWidgetCollection::on_m_testAnimatedTabBar_clicked()
     showCached(m_testAnimatedTabBar, this);
 }
 
-void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
+void TestWidgetCollection::on_m_testLayoutHelper_clicked()
+{
+    showCached(m_testLayoutHelper, this);
+}
 
 void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
 
@@ -216,7 +230,10 @@ void TestWidgetCollection::on_m_compareIcons_clicked()
 
 void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
 
-void TestWidgetCollection::on_testDisclosure_clicked() {}
+void TestWidgetCollection::on_testDisclosure_clicked()
+{
+    showCached(m_testDisclosure, this);
+}
 
 void TestWidgetCollection::on_testVnSlider_clicked()
 {
@@ -233,7 +250,10 @@ void TestWidgetCollection::on_testCurveInputControl_clicked()
     showCached(m_testCurveInputControl, this);
 }
 
-void TestWidgetCollection::on_testInfoArea_clicked() {}
+void TestWidgetCollection::on_testInfoArea_clicked()
+{
+    showCached(m_testInfoArea, this);
+}
 
 void TestWidgetCollection::on_testVNModuleNavigation_clicked()
 {

@@ -1,0 +1,127 @@
+#include "TestFlipWidget.h"
+
+#include <FlipWidget.h>
+#include <LayoutVisualizationFilter.h>
+
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTest>
+#include <QVariantAnimation>
+
+namespace {
+void finishFlip(FlipWidget* flip)
+{
+    if (flip->isFlipping())
+        flip->animation()->setCurrentTime(flip->animation()->duration());
+}
+} // namespace
+
+class FlipWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void names_data();
+    void names();
+    void flipButtonsTurnAndKeepState();
+    void flipPaintsTurningPage();
+};
+
+void FlipWidgetTest::cleanup()
+{
+    QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
+}
+
+void FlipWidgetTest::names_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("label1") << "label1"
+                            << "Page1";
+    QTest::newRow("flip1") << "flip1"
+                           << "Flip";
+    QTest::newRow("label2") << "label2"
+                            << "Page2";
+    QTest::newRow("flip2") << "flip2"
+                           << "Flip";
+}
+
+void FlipWidgetTest::names()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    TestFlipWidget dialog(nullptr);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestFlipWidget"));
+    QWidget* widget = dialog.findChild<QWidget*>(name);
+    QVERIFY(widget);
+    QCOMPARE(widget->property("text").toString(), text);
+    QVERIFY(dialog.findChild<QSlider*>(QStringLiteral("horizontalSlider")));
+    QVERIFY(dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox")));
+    QVERIFY(dialog.findChild<LayoutVisualizationFilter*>());
+}
+
+void FlipWidgetTest::flipButtonsTurnAndKeepState()
+{
+    TestFlipWidget dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    FlipWidget* flip = dialog.flipWidget();
+    auto* slider = dialog.findChild<QSlider*>(QStringLiteral("horizontalSlider"));
+    auto* spinBox = dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox"));
+    slider->setValue(42);
+    QCOMPARE(flip->currentWidget()->objectName(), QStringLiteral("frame1"));
+
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("flip1")), Qt::LeftButton);
+    QVERIFY(flip->isFlipping());
+    finishFlip(flip);
+    QCOMPARE(flip->currentWidget()->objectName(), QStringLiteral("frame2"));
+    QVERIFY(spinBox->isVisible());
+    QVERIFY(!slider->isVisible());
+    spinBox->setValue(7.5);
+
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("flip2")), Qt::LeftButton);
+    finishFlip(flip);
+    QCOMPARE(flip->currentIndex(), 0);
+    QVERIFY(slider->isVisible());
+    QCOMPARE(slider->value(), 42);
+    QCOMPARE(spinBox->value(), 7.5);
+}
+
+void FlipWidgetTest::flipPaintsTurningPage()
+{
+    QWidget window;
+    auto* front = new QLabel;
+    front->setAutoFillBackground(true);
+    front->setStyleSheet(QStringLiteral("background: #ff0000;"));
+    auto* back = new QLabel;
+    back->setAutoFillBackground(true);
+    back->setStyleSheet(QStringLiteral("background: #0000ff;"));
+    auto* flip = new FlipWidget(front, back, &window);
+    flip->resize(200, 100);
+    window.resize(200, 100);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+
+    flip->flip();
+    QVariantAnimation* animation = flip->animation();
+    // A quarter turn in: the front page, narrowed, still shows; the corners are free.
+    animation->setCurrentTime(animation->duration() / 4);
+    QImage image = flip->grab().toImage();
+    QCOMPARE(QColor(image.pixel(100, 50)), QColor(Qt::red));
+    QVERIFY(QColor(image.pixel(2, 50)) != QColor(Qt::red));
+    // Three quarters in: the back page turns into view.
+    animation->setCurrentTime(animation->duration() * 3 / 4);
+    image = flip->grab().toImage();
+    QCOMPARE(QColor(image.pixel(100, 50)), QColor(Qt::blue));
+    QVERIFY(QColor(image.pixel(2, 50)) != QColor(Qt::blue));
+    animation->setCurrentTime(animation->duration());
+    QVERIFY(!flip->isFlipping());
+    QCOMPARE(QColor(flip->grab().toImage().pixel(2, 50)), QColor(Qt::blue));
+}
+
+QTEST_MAIN(FlipWidgetTest)
+#include "tst_flipwidget.moc"
