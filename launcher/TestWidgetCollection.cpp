@@ -7,6 +7,8 @@
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
 #include "TestVNMessageBox.h"
+#include "TestVNTableWidget.h"
+#include "TestVNTreeView.h"
 #include "TestValueFields.h"
 #include "TestVirtualSlider.h"
 #include "TestVisualizePointsControl.h"
@@ -191,9 +193,15 @@ void TestWidgetCollection::on_testInfoArea_clicked() {}
 
 void TestWidgetCollection::on_testVNModuleNavigation_clicked() {}
 
-void TestWidgetCollection::on_testTableWidget_clicked() {}
+void TestWidgetCollection::on_testTableWidget_clicked()
+{
+    showCached(m_testTableWidget, this);
+}
 
-void TestWidgetCollection::on_m_testVNTreeView_clicked() {}
+void TestWidgetCollection::on_m_testVNTreeView_clicked()
+{
+    showCached(m_testTreeView, this);
+}
 
 void TestWidgetCollection::on_testTreeWidget_clicked() {}
 
