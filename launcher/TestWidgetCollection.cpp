@@ -4,8 +4,13 @@
 #include "QtTraining.h"
 #include "TestAlignment.h"
 #include "TestColorDisplay.h"
+#include "TestDendrogramWidget.h"
+#include "TestDragAndDrop.h"
+#include "TestJoinsTable.h"
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
+#include "TestTreeItemDelegate.h"
+#include "TestTreeWidget.h"
 #include "TestVNMessageBox.h"
 #include "TestVNTableWidget.h"
 #include "TestVNTreeView.h"
@@ -158,7 +163,10 @@ void TestWidgetCollection::on_m_testRegExp_clicked()
 
 void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
 
-void TestWidgetCollection::on_m_testTreeItemDelegate_clicked() {}
+void TestWidgetCollection::on_m_testTreeItemDelegate_clicked()
+{
+    showCached(m_testTreeItemDelegate, this);
+}
 
 void TestWidgetCollection::on_m_testLayouts_clicked() {}
 
@@ -175,7 +183,10 @@ void TestWidgetCollection::on_m_testAnimatedTabBar_clicked() {}
 
 void TestWidgetCollection::on_m_testLayoutHelper_clicked() {}
 
-void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
+void TestWidgetCollection::on_m_testDendrogramWidget_clicked()
+{
+    showCached(m_testDendrogramWidget, this);
+}
 
 void TestWidgetCollection::on_m_compareIcons_clicked() {}
 
@@ -203,13 +214,22 @@ void TestWidgetCollection::on_m_testVNTreeView_clicked()
     showCached(m_testTreeView, this);
 }
 
-void TestWidgetCollection::on_testTreeWidget_clicked() {}
+void TestWidgetCollection::on_testTreeWidget_clicked()
+{
+    showCached(m_testTreeWidget, this);
+}
 
-void TestWidgetCollection::on_m_joinsTestTable_clicked() {}
+void TestWidgetCollection::on_m_joinsTestTable_clicked()
+{
+    showCached(m_testJoinsTable, this);
+}
 
 void TestWidgetCollection::on_m_vnResultSwitcher_clicked() {}
 
-void TestWidgetCollection::on_m_testDragAndDrop_clicked() {}
+void TestWidgetCollection::on_m_testDragAndDrop_clicked()
+{
+    showCached(m_testDragAndDrop, this);
+}
 
 void TestWidgetCollection::on_m_progressTest_clicked() {}
 

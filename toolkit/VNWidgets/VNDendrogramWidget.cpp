@@ -29,6 +29,9 @@ VNDendrogramWidget::VNDendrogramWidget(QWidget* parent)
     setUniformRowHeights(true);
     setRootIsDecorated(false);
     setSelectionMode(QAbstractItemView::SingleSelection);
+    header()->setStretchLastSection(false);
+    // Room for the component names; the operation columns are narrow.
+    header()->resizeSection(0, 180);
 }
 
 void VNDendrogramWidget::setDendrogramModel(std::shared_ptr<DendrogramModel> model)

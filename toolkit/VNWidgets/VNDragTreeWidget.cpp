@@ -14,7 +14,10 @@ VNDragTreeWidget::VNDragTreeWidget(QWidget* parent)
 {
     setAcceptDrops(true);
     viewport()->setAcceptDrops(true);
-    setHeader(new VNCustomHeaderView(Qt::Horizontal, QSize(0, 0), this));
+    auto* defaultHeader = new VNCustomHeaderView(Qt::Horizontal, QSize(0, 0), this);
+    defaultHeader->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    defaultHeader->setStretchLastSection(true);
+    setHeader(defaultHeader);
     QAbstractItemModel* treeModel = model();
     connect(treeModel, &QAbstractItemModel::rowsInserted, this, &VNDragTreeWidget::invalidateDFSIndexes);
     connect(treeModel, &QAbstractItemModel::rowsRemoved, this, &VNDragTreeWidget::invalidateDFSIndexes);

@@ -53,9 +53,9 @@ bool VNItemDelegate::isReadOnly(const QModelIndex& index)
 
 QRect VNItemDelegate::checkIndicatorRect(const QStyleOptionViewItem& option) const
 {
-    QStyleOptionViewItem check = option;
-    const QSize size =
-        styleOf(option)->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &check, option.widget).size();
+    const QStyle* style = styleOf(option);
+    const QSize size(style->pixelMetric(QStyle::PM_IndicatorWidth, &option, option.widget),
+                     style->pixelMetric(QStyle::PM_IndicatorHeight, &option, option.widget));
     return QStyle::alignedRect(option.direction, m_checkAlignment, size, option.rect.marginsRemoved(m_checkMargins));
 }
 
