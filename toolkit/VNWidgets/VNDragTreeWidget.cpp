@@ -31,6 +31,13 @@ VNDragTreeWidget::VNDragTreeWidget(QWidget* parent)
             });
 }
 
+// The base class empties the model after this part of the object is gone; its signals must no
+// longer reach it.
+VNDragTreeWidget::~VNDragTreeWidget()
+{
+    disconnect(model(), nullptr, this, nullptr);
+}
+
 void VNDragTreeWidget::invalidateDFSIndexes()
 {
     m_dfsValid = false;

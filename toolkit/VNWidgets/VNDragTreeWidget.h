@@ -17,6 +17,7 @@ class VNWIDGETS_EXPORT VNDragTreeWidget : public QTreeWidget
 
 public:
     explicit VNDragTreeWidget(QWidget* parent = nullptr);
+    ~VNDragTreeWidget() override;
 
     // A drop of this tree's own rows onto another of its rows that ends with Qt::MoveAction moves
     // the dragged top-level rows in front of the target row.
