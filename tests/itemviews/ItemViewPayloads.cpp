@@ -92,7 +92,7 @@ int readFirstComponent(const QByteArray& data)
         return -1;
     qint32 first = -1;
     stream >> first;
-    return stream.status() == QDataStream::Ok ? first : -1;
+    return stream.status() == QDataStream::Ok && first >= 0 ? first : -1;
 }
 
 } // namespace ItemViewPayloads

@@ -26,6 +26,8 @@ VNCustomHeaderView::VNCustomHeaderView(Qt::Orientation orientation, QSize sectio
 {
     setMouseTracking(true);
     setHighlightSections(false);
+    // Toggle and marker columns may be narrower than the style's text-based minimum.
+    setMinimumSectionSize(12);
 }
 
 void VNCustomHeaderView::setSelectable(bool selectable, int section)
