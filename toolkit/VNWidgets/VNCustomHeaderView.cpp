@@ -230,10 +230,7 @@ void VNCustomHeaderView::paintTitle(QPainter* painter, const QRect& rect, int lo
     }
     const QColor color = muted ? mutedText : palette().color(QPalette::ButtonText);
     if (headerModel->headerData(logicalIndex, orientation(), VNItemDataRoles::RichTextRole).toBool()) {
-        QTextDocument document;
-        document.setDefaultFont(font());
-        document.setDocumentMargin(0);
-        document.setHtml(text);
+        QTextDocument& document = *richTextDocument(text);
         const QSizeF size = document.size();
         const QRect target = QStyle::alignedRect(layoutDirection(), alignment, size.toSize(), textRect);
         painter->save();
@@ -250,15 +247,29 @@ void VNCustomHeaderView::paintTitle(QPainter* painter, const QRect& rect, int lo
     painter->drawText(textRect, int(alignment), text);
 }
 
+QTextDocument* VNCustomHeaderView::richTextDocument(const QString& html) const
+{
+    std::shared_ptr<QTextDocument>& cached = m_richTextCache[html];
+    if (!cached || cached->defaultFont() != font()) {
+        if (m_richTextCache.size() > 1000) {
+            m_richTextCache.clear();
+            return richTextDocument(html);
+        }
+        cached = std::make_shared<QTextDocument>();
+        cached->setDefaultFont(font());
+        cached->setDocumentMargin(0);
+        cached->setHtml(html);
+    }
+    return cached.get();
+}
+
 QSize VNCustomHeaderView::sectionSizeFromContents(int logicalIndex) const
 {
     QSize size = QHeaderView::sectionSizeFromContents(logicalIndex);
     if (model() && model()->headerData(logicalIndex, orientation(), VNItemDataRoles::RichTextRole).toBool()) {
-        QTextDocument document;
-        document.setDefaultFont(font());
-        document.setDocumentMargin(0);
-        document.setHtml(model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString());
-        const QSize richSize = document.size().toSize() + QSize(12, 6);
+        const QTextDocument* document =
+            richTextDocument(model()->headerData(logicalIndex, orientation(), Qt::DisplayRole).toString());
+        const QSize richSize = document->size().toSize() + QSize(12, 6);
         size.setHeight(qMax(size.height(), richSize.height()));
         if (orientation() == Qt::Vertical)
             size.setWidth(richSize.width());

@@ -8,6 +8,10 @@
 #include <QSet>
 #include <QSize>
 
+#include <memory>
+
+class QTextDocument;
+
 // A header view in the toolkit's look that reads the toolkit's header roles (VNItemDataRoles):
 // - StatusRole: a colour band along the section's inner edge in the status colour;
 // - RichTextRole: the title is rendered as rich text (subscripts, bold, ...);
@@ -68,6 +72,8 @@ private:
     QRect toolTipButtonRectIn(const QRect& sectionRect) const;
     void paintTitle(QPainter* painter, const QRect& rect, int logicalIndex, bool muted) const;
     void paintStatusBand(QPainter* painter, const QRect& rect, int status) const;
+    // Laid-out rich titles by their text: laying out HTML on every paint is too slow for big tables.
+    QTextDocument* richTextDocument(const QString& html) const;
 
     QSize m_sectionPadding;
     QSet<int> m_selectable;
@@ -78,4 +84,5 @@ private:
     Qt::CheckState m_checkBoxState = Qt::Unchecked;
     bool m_compareDifferent = false;
     int m_pressedCheckBoxSection = -1;
+    mutable QHash<QString, std::shared_ptr<QTextDocument>> m_richTextCache;
 };

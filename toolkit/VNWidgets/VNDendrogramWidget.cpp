@@ -64,13 +64,20 @@ void VNDendrogramWidget::paintEvent(QPaintEvent* event)
     geometry.nameEnd.fill(0, rows);
     const int nameRight = header()->sectionViewportPosition(0) + header()->sectionSize(0);
     const QFontMetrics metrics(font());
+    // Rows without children all have the first row's height, so their centres follow from it;
+    // asking the view for each row's rectangle would cost a search per row.
+    bool flat = rows > 0 && uniformRowHeights();
+    for (int row = 0; flat && row < rows; ++row)
+        flat = topLevelItem(row)->childCount() == 0 && !topLevelItem(row)->isHidden();
+    const QRect first = rows > 0 ? visualItemRect(topLevelItem(0)) : QRect();
     for (int row = 0; row < rows; ++row) {
         QTreeWidgetItem* item = topLevelItem(row);
-        const QRect rect = visualItemRect(item);
+        const QRect rect = flat ? first.translated(0, row * first.height()) : visualItemRect(item);
         if (!rect.isValid())
             continue;
         geometry.rowCenter[row] = rect.center().y();
-        geometry.nameEnd[row] = qMin(nameRight, rect.left() + 6 + metrics.horizontalAdvance(item->text(0)) + 4);
+        if (rect.bottom() >= event->rect().top() && rect.top() <= event->rect().bottom())
+            geometry.nameEnd[row] = qMin(nameRight, rect.left() + 6 + metrics.horizontalAdvance(item->text(0)) + 4);
     }
     const int columns = columnCount();
     geometry.columnCenter.fill(-1, columns);
@@ -88,11 +95,13 @@ void VNDendrogramWidget::paintEvent(QPaintEvent* event)
             painter.drawLine(x, 0, x, viewport()->height());
         }
     }
-    paintLinks(painter, geometry);
+    paintLinks(painter, geometry, event->rect());
 }
 
-void VNDendrogramWidget::paintLinks(QPainter& painter, const Geometry& geometry) const
+void VNDendrogramWidget::paintLinks(QPainter& painter, const Geometry& geometry, const QRect& exposed) const
 {
+    const int exposedTop = exposed.top() - markRadius - 1;
+    const int exposedBottom = exposed.bottom() + markRadius + 1;
     const int columns = geometry.columnCenter.size();
     const int rows = geometry.rowCenter.size();
     // Vertical extent of what arrives in each column: marks of rows and connectors of columns.
@@ -112,6 +121,8 @@ void VNDendrogramWidget::paintLinks(QPainter& painter, const Geometry& geometry)
             continue;
         top[column] = qMin(top[column], y);
         bottom[column] = qMax(bottom[column], y);
+        if (y < exposedTop || y > exposedBottom)
+            continue;
         painter.drawLine(geometry.nameEnd[row], y, x - markRadius, y);
         painter.drawEllipse(QPoint(x, y), markRadius, markRadius);
     }

@@ -42,7 +42,7 @@ protected:
 private:
     struct Geometry;
     bool isDrawableColumn(int column) const;
-    void paintLinks(QPainter& painter, const Geometry& geometry) const;
+    void paintLinks(QPainter& painter, const Geometry& geometry, const QRect& exposed) const;
 
     std::shared_ptr<DendrogramModel> m_model;
 };
