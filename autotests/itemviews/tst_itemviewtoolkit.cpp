@@ -99,10 +99,7 @@ void TestItemViewToolkit::headerColourBand()
     QFETCH(QColor, band);
     QStandardItemModel model(2, 2);
     model.setHeaderData(0, Qt::Orientation(orientation), status, VNItemDataRoles::StatusRole);
-    VNTableWidget table;
-    table.setRowCount(2);
-    table.setColumnCount(2);
-    auto* header = new VNCustomHeaderView(Qt::Orientation(orientation), QSize(0, 0), nullptr);
+    auto header = std::make_unique<VNCustomHeaderView>(Qt::Orientation(orientation), QSize(0, 0), nullptr);
     header->setModel(&model);
     header->resize(200, 200);
     header->show();
@@ -115,7 +112,6 @@ void TestItemViewToolkit::headerColourBand()
         QCOMPARE(countPixels(image, section, userEditBlue), 0);
         QCOMPARE(countPixels(image, section, needInputRed), 0);
     }
-    delete header;
 }
 
 void TestItemViewToolkit::headerRichTextDrawsSubscript()
