@@ -171,7 +171,7 @@ void VNCustomHeaderView::paintSection(QPainter* painter, const QRect& rect, int 
     const int status = model()->headerData(logicalIndex, orientation(), VNItemDataRoles::StatusRole).toInt();
     paintStatusBand(painter, rect, status);
 
-    QRect titleRect = rect.adjusted(4, 1, -4, -1);
+    QRect titleRect = rect.adjusted(3, 1, -3, -1);
     if (orientation() == Qt::Vertical && status)
         titleRect.setLeft(titleRect.left() + statusBandWidth);
     if (m_toolTipButtons.contains(logicalIndex)) {
@@ -243,7 +243,9 @@ void VNCustomHeaderView::paintTitle(QPainter* painter, const QRect& rect, int lo
         return;
     }
     painter->setPen(color);
-    text = fontMetrics().elidedText(text, textElideMode(), textRect.width());
+    // A clipped title reads as a different word ("ath" for "Path 1"); an elided one does not.
+    const Qt::TextElideMode elideMode = textElideMode() == Qt::ElideNone ? Qt::ElideRight : textElideMode();
+    text = fontMetrics().elidedText(text, elideMode, textRect.width());
     painter->drawText(textRect, int(alignment), text);
 }
 
