@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPersistentModelIndex>
+#include <QPointer>
 
 namespace {
 const QColor outlineColor(0x5a, 0x66, 0x73);
@@ -64,15 +65,28 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 }
 
 // Painting must not change the model, so the mirror is written once control is back in the event
-// loop; the index is kept persistent in case rows move meanwhile.
+// loop. The whole column under the same parent is brought in step at once, so that rows scrolled
+// out of sight read right too; indexes are kept persistent in case rows move meanwhile.
 void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) const
 {
-    QPersistentModelIndex persistent(index);
+    Q_UNUSED(on)
+    const QPersistentModelIndex parent(index.parent());
+    const int column = index.column();
+    auto* model = const_cast<QAbstractItemModel*>(index.model());
+    QPointer<QAbstractItemModel> guard(model);
     QMetaObject::invokeMethod(
         const_cast<IconToggleDelegate*>(this),
-        [persistent, on]() {
-            if (persistent.isValid() && isOn(persistent) == on)
-                const_cast<QAbstractItemModel*>(persistent.model())->setData(persistent, on, Qt::EditRole);
+        [guard, parent, column]() {
+            if (!guard)
+                return;
+            const int rows = guard->rowCount(parent);
+            for (int row = 0; row < rows; ++row) {
+                const QModelIndex cell = guard->index(row, column, parent);
+                const QVariant mirrored = cell.data(Qt::EditRole);
+                const bool cellOn = isOn(cell);
+                if (mirrored.type() != QVariant::Bool || mirrored.toBool() != cellOn)
+                    guard->setData(cell, cellOn, Qt::EditRole);
+            }
         },
         Qt::QueuedConnection);
 }
