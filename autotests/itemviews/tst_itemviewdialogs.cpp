@@ -28,7 +28,9 @@
 #include <QRadioButton>
 #include <QStandardItemModel>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
+#include <QWindow>
 
 namespace {
 template<typename T>
@@ -109,6 +111,8 @@ private slots:
 
     void dragAndDropNumberingAndPlacement();
 
+    void mouseDragCopiesRow();
+    void mouseDragMovesJoin();
     void dendrogramColumnsAndDefaults();
     void dendrogramButtonsAcceptOnePastLast();
     void dendrogramDrops_data();
@@ -123,6 +127,9 @@ private slots:
 
     void payloadReadersRefuseMalformed_data();
     void payloadReadersRefuseMalformed();
+
+private:
+    void mouseDrag(QDialog* dialog, VNDragAndDropManager* manager, QPoint start, QPoint end);
 };
 
 void TestItemViewDialogs::cleanup()
@@ -382,6 +389,61 @@ void TestItemViewDialogs::dragAndDropNumberingAndPlacement()
     QCOMPARE(initiator->topLevelItemCount(), 2);
     QVERIFY(!dropOn(initiator, second.get(), QPoint(10, 10)));
     initiator->finishDrag();
+}
+
+// A drag with the mouse through the platform's drag machinery: press on a point of the dialog,
+// move while the button is held; the rest of the gesture, up to the release at the end point,
+// happens while the drag runs its own event loop.
+void TestItemViewDialogs::mouseDrag(QDialog* dialog, VNDragAndDropManager* manager, QPoint start, QPoint end)
+{
+    QWindow* window = dialog->windowHandle();
+    auto finish = connect(
+        manager, QOverload<QList<QTreeWidgetItem*>&, QMimeData&, QPixmap&>::of(&VNDragAndDropManager::sigPrepareDrag),
+        this, [window, start, end, this]() {
+            QTimer::singleShot(0, this, [window, start, end]() {
+                for (int step = 1; step <= 10; ++step)
+                    QTest::mouseMove(window, start + (end - start) * step / 10);
+                QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, end);
+            });
+        });
+    QTest::mousePress(window, Qt::LeftButton, Qt::NoModifier, start);
+    QTest::mouseMove(window, start + QPoint(QApplication::startDragDistance() + 5, 0));
+    QTest::mouseMove(window, start + QPoint(QApplication::startDragDistance() + 10, 2));
+    disconnect(finish);
+}
+
+// The offscreen platform ends every drag at once; run these under a display server (xvfb-run).
+void TestItemViewDialogs::mouseDragCopiesRow()
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        QSKIP("the offscreen platform runs no drags");
+    TestDragAndDrop dialog(nullptr);
+    dialog.resize(400, 400);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* initiator = child<VNDragTreeWidget>(&dialog, "m_initiatorTree");
+    auto* target = child<VNDragTreeWidget>(&dialog, "m_targetTree");
+    QTest::mousePress(child<QAbstractButton>(&dialog, "m_addItemButton"), Qt::LeftButton);
+    mouseDrag(&dialog, initiator->getDragAndDropManager(),
+              initiator->viewport()->mapTo(&dialog, rowCenter(initiator, 0)),
+              target->viewport()->mapTo(&dialog, QPoint(30, 60)));
+    QTRY_COMPARE(target->topLevelItemCount(), 1);
+    QCOMPARE(target->topLevelItem(0)->text(0), QStringLiteral("item_2"));
+    QCOMPARE(initiator->topLevelItemCount(), 1);
+}
+
+void TestItemViewDialogs::mouseDragMovesJoin()
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        QSKIP("the offscreen platform runs no drags");
+    TestJoinsTable dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    VNDragTreeWidget* table = dialog.table();
+    mouseDrag(&dialog, table->getDragAndDropManager(), table->viewport()->mapTo(&dialog, rowCenter(table, 5, 2)),
+              table->viewport()->mapTo(&dialog, rowCenter(table, 1, 2)));
+    QTRY_COMPARE(table->topLevelItem(1)->text(2), QStringLiteral("Join 6"));
+    QCOMPARE(table->topLevelItemCount(), 10);
 }
 
 void TestItemViewDialogs::dendrogramColumnsAndDefaults()

@@ -149,6 +149,9 @@ void VNDragAndDropManager::handleDragEnter(QDragEnterEvent* event, QTreeWidgetIt
         return;
     }
     decide(event, target);
+    // Qt sends the moves of a drag only to a widget that took its enter event; whether a drop is
+    // allowed where the drag entered is told by the drop action, so the moves keep coming.
+    event->accept();
 }
 
 void VNDragAndDropManager::handleDragMove(QDragMoveEvent* event, QTreeWidgetItem* target)
