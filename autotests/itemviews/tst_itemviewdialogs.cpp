@@ -113,6 +113,7 @@ private slots:
 
     void mouseDragCopiesRow();
     void mouseDragMovesJoin();
+    void mouseDragDrawsDendrogramLink();
     void dendrogramColumnsAndDefaults();
     void dendrogramButtonsAcceptOnePastLast();
     void dendrogramDrops_data();
@@ -444,6 +445,22 @@ void TestItemViewDialogs::mouseDragMovesJoin()
               table->viewport()->mapTo(&dialog, rowCenter(table, 1, 2)));
     QTRY_COMPARE(table->topLevelItem(1)->text(2), QStringLiteral("Join 6"));
     QCOMPARE(table->topLevelItemCount(), 10);
+}
+
+void TestItemViewDialogs::mouseDragDrawsDendrogramLink()
+{
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        QSKIP("the offscreen platform runs no drags");
+    TestDendrogramWidget dialog(nullptr);
+    press(&dialog, "m_addColumn");
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    Varnis::VNDendrogramWidget* dendrogram = dialog.dendrogram();
+    QWidget* viewport = dendrogram->viewport();
+    mouseDrag(&dialog, dendrogram->getDragAndDropManager(),
+              viewport->mapTo(&dialog, rowCenter(dendrogram, 0, 0) - QPoint(40, 0)),
+              viewport->mapTo(&dialog, rowCenter(dendrogram, 0, 2)));
+    QTRY_COMPARE(dialog.itemToColumnLinks(), (Links{{2, 0}}));
 }
 
 void TestItemViewDialogs::dendrogramColumnsAndDefaults()
