@@ -10,9 +10,12 @@
 #include "TestComposePixmap.h"
 #include "TestConverterUtility.h"
 #include "TestCurveInputControl.h"
+#include "TestDendrogramWidget.h"
 #include "TestDisclosure.h"
+#include "TestDragAndDrop.h"
 #include "TestFlipWidget.h"
 #include "TestInfoArea.h"
+#include "TestJoinsTable.h"
 #include "TestLayoutExample.h"
 #include "TestLayoutHelper.h"
 #include "TestModuleNavigation.h"
@@ -20,10 +23,14 @@
 #include "TestRegExp.h"
 #include "TestSVG.h"
 #include "TestStringReducer.h"
+#include "TestTreeItemDelegate.h"
+#include "TestTreeWidget.h"
 #include "TestVNAnimatedTabBar.h"
 #include "TestVNMessageBox.h"
 #include "TestVNResultSwitcher.h"
 #include "TestVNSliderView.h"
+#include "TestVNTableWidget.h"
+#include "TestVNTreeView.h"
 #include "TestValueFields.h"
 #include "TestVirtualSlider.h"
 #include "TestVisualizePointsControl.h"
@@ -192,7 +199,10 @@ void TestWidgetCollection::on_m_testRegExp_clicked()
 
 void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
 
-void TestWidgetCollection::on_m_testTreeItemDelegate_clicked() {}
+void TestWidgetCollection::on_m_testTreeItemDelegate_clicked()
+{
+    showCached(m_testTreeItemDelegate, this);
+}
 
 void TestWidgetCollection::on_m_testLayouts_clicked()
 {
@@ -221,7 +231,10 @@ void TestWidgetCollection::on_m_testLayoutHelper_clicked()
     showCached(m_testLayoutHelper, this);
 }
 
-void TestWidgetCollection::on_m_testDendrogramWidget_clicked() {}
+void TestWidgetCollection::on_m_testDendrogramWidget_clicked()
+{
+    showCached(m_testDendrogramWidget, this);
+}
 
 void TestWidgetCollection::on_m_compareIcons_clicked()
 {
@@ -260,13 +273,25 @@ void TestWidgetCollection::on_testVNModuleNavigation_clicked()
     showCached(m_testModuleNavigation, this);
 }
 
-void TestWidgetCollection::on_testTableWidget_clicked() {}
+void TestWidgetCollection::on_testTableWidget_clicked()
+{
+    showCached(m_testTableWidget, this);
+}
 
-void TestWidgetCollection::on_m_testVNTreeView_clicked() {}
+void TestWidgetCollection::on_m_testVNTreeView_clicked()
+{
+    showCached(m_testTreeView, this);
+}
 
-void TestWidgetCollection::on_testTreeWidget_clicked() {}
+void TestWidgetCollection::on_testTreeWidget_clicked()
+{
+    showCached(m_testTreeWidget, this);
+}
 
-void TestWidgetCollection::on_m_joinsTestTable_clicked() {}
+void TestWidgetCollection::on_m_joinsTestTable_clicked()
+{
+    showCached(m_testJoinsTable, this);
+}
 
 // A new window on every click; the panel deletes them all when it goes.
 void TestWidgetCollection::on_m_vnResultSwitcher_clicked()
@@ -274,7 +299,10 @@ void TestWidgetCollection::on_m_vnResultSwitcher_clicked()
     (new TestVNResultSwitcher(this))->show();
 }
 
-void TestWidgetCollection::on_m_testDragAndDrop_clicked() {}
+void TestWidgetCollection::on_m_testDragAndDrop_clicked()
+{
+    showCached(m_testDragAndDrop, this);
+}
 
 void TestWidgetCollection::on_m_progressTest_clicked()
 {

@@ -400,11 +400,11 @@ VNAnimatedTabBar::TabLook VNAnimatedTabBar::tabLook(int index) const
         look.fill = index == m_current ? darkTabColor.lighter(130) : darkTabColor;
         look.text = Qt::white;
     }
-    const QPair<QColor, QColor> status = vnStatusColors(tab.status);
-    if (status.first.isValid()) {
-        look.fill = status.first;
-        look.frame = status.second;
-        look.text = tab.dark ? look.text : status.second.darker(150);
+    const VNStatusColors status = vnStatusColors(tab.status);
+    if (status.isValid()) {
+        look.fill = status.fill;
+        look.frame = status.frame;
+        look.text = tab.dark ? look.text : status.frame.darker(150);
     }
     if (!isEnabled())
         look.text = palette().color(QPalette::Disabled, QPalette::WindowText);

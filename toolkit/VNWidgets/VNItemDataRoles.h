@@ -1,0 +1,23 @@
+#pragma once
+
+#include <Qt>
+
+// Item-data roles that the toolkit's views, headers and delegates read. Models write them on cells
+// or, through setHeaderData / header items, on header sections.
+namespace VNItemDataRoles {
+enum Role
+{
+    // bool, cells: false draws the cell inactive (greyed, toggles dimmed). Missing means active.
+    ActiveRole = Qt::UserRole + 10,
+    // bool, cells: true makes the cell read-only (no editor, muted background).
+    // bool, header sections: a fixed section: never drawn selected, title in the muted colour.
+    ReadOnlyRole = Qt::UserRole + 13,
+    // int (VNWidgetStatus bits): the status word; cells get the status fill and a bar on the left,
+    // header sections a colour band (colour coding).
+    StatusRole = Qt::UserRole + 24,
+    // int, cells: how the row connects to its siblings (VNItemDelegate::TreeLine bits).
+    TreeLineRole = Qt::UserRole + 36,
+    // bool, header sections: the title is rich text ("Column<sub>0</sub>" draws a subscript).
+    RichTextRole = Qt::UserRole + 205
+};
+} // namespace VNItemDataRoles
