@@ -30,3 +30,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         FUZZ_CHECK(ItemViewPayloads::readFirstComponent(ItemViewPayloads::writeComponents({component})) == component);
     return 0;
 }
+
+void checkGrowth(const QByteArray& seed)
+{
+    checkLinearGrowth(QString::fromLatin1(seed), [](const QString& input) {
+        const QByteArray bytes = input.toLatin1();
+        QString text;
+        ItemViewPayloads::readText(bytes, text);
+        ItemViewPayloads::readDragContent(bytes);
+        ItemViewPayloads::readFirstComponent(bytes);
+    });
+}
