@@ -7,6 +7,8 @@
 #include "TestDendrogramWidget.h"
 #include "TestDragAndDrop.h"
 #include "TestJoinsTable.h"
+#include "TestMasterDetailTree.h"
+#include "TestNewAssemblyImport.h"
 #include "TestRegExp.h"
 #include "TestStringReducer.h"
 #include "TestTreeItemDelegate.h"
@@ -133,7 +135,10 @@ void TestWidgetCollection::on_m_visualizePointsControl_clicked()
     showCached(m_testPointsControl, this);
 }
 
-void TestWidgetCollection::on_testMasterDetailTree_clicked() {}
+void TestWidgetCollection::on_testMasterDetailTree_clicked()
+{
+    showCached(m_testMasterDetailTree, this);
+}
 
 void TestWidgetCollection::on_testPathShortener_clicked()
 {
@@ -190,7 +195,10 @@ void TestWidgetCollection::on_m_testDendrogramWidget_clicked()
 
 void TestWidgetCollection::on_m_compareIcons_clicked() {}
 
-void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
+void TestWidgetCollection::on_m_testNewAssemblyImport_clicked()
+{
+    showCached(m_testNewAssemblyImport, this);
+}
 
 void TestWidgetCollection::on_testDisclosure_clicked() {}
 
