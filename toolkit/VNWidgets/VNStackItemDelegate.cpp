@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTreeView>
 
 namespace {
 const QColor highlightFill(0xff, 0xe8, 0x9c);
@@ -52,8 +53,11 @@ void VNStackItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& o
     const bool hasIcon = opt.features & QStyleOptionViewItem::HasDecoration;
     if (hasIcon && !topLevel && m_controller->paintsLeftIconInIndentation()) {
         const QSize size = opt.icon.actualSize(opt.decorationSize);
-        const QRect iconRect(option.rect.left() - size.width() - 2, opt.rect.center().y() - size.height() / 2 + 1,
-                             size.width(), size.height());
+        // A row with children keeps its branch arrow; its icon moves one level further out.
+        const auto* view = qobject_cast<const QTreeView*>(opt.widget);
+        const int shift = view && index.model()->hasChildren(index) ? view->indentation() : 0;
+        const QRect iconRect(option.rect.left() - shift - size.width() - 2,
+                             opt.rect.center().y() - size.height() / 2 + 1, size.width(), size.height());
         opt.icon.paint(painter, iconRect);
         opt.features &= ~QStyleOptionViewItem::HasDecoration;
         opt.icon = QIcon();
