@@ -18,7 +18,9 @@
 #include "TestJoinsTable.h"
 #include "TestLayoutExample.h"
 #include "TestLayoutHelper.h"
+#include "TestMasterDetailTree.h"
 #include "TestModuleNavigation.h"
+#include "TestNewAssemblyImport.h"
 #include "TestProgressComposition.h"
 #include "TestRegExp.h"
 #include "TestSVG.h"
@@ -150,7 +152,10 @@ void TestWidgetCollection::on_m_visualizePointsControl_clicked()
     showCached(m_testPointsControl, this);
 }
 
-void TestWidgetCollection::on_testMasterDetailTree_clicked() {}
+void TestWidgetCollection::on_testMasterDetailTree_clicked()
+{
+    showCached(m_testMasterDetailTree, this);
+}
 
 void TestWidgetCollection::on_testPathShortener_clicked()
 {
@@ -241,7 +246,10 @@ void TestWidgetCollection::on_m_compareIcons_clicked()
     showCached(m_testCompareIcons, this);
 }
 
-void TestWidgetCollection::on_m_testNewAssemblyImport_clicked() {}
+void TestWidgetCollection::on_m_testNewAssemblyImport_clicked()
+{
+    showCached(m_testNewAssemblyImport, this);
+}
 
 void TestWidgetCollection::on_testDisclosure_clicked()
 {

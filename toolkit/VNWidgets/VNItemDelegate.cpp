@@ -30,6 +30,11 @@ void VNItemDelegate::setCheckIndicator(bool visible)
     m_checkIndicator = visible;
 }
 
+void VNItemDelegate::updateLeftIconIndentationUpdateHandler()
+{
+    m_indentForLeftIcon = true;
+}
+
 void VNItemDelegate::setCheckIndicatorMargins(int left, int top, int right, int bottom)
 {
     m_checkMargins = QMargins(left, top, right, bottom);
@@ -63,12 +68,16 @@ void VNItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
 {
     QStyleOptionViewItem opt = option;
     initStyleOption(&opt, index);
+    if (!index.data(Qt::TextAlignmentRole).isValid())
+        opt.displayAlignment = m_alignment;
     if (!isActive(index)) {
         opt.state &= ~QStyle::State_Enabled;
         opt.palette.setCurrentColorGroup(QPalette::Disabled);
         opt.palette.setColor(QPalette::Text, opt.palette.color(QPalette::Disabled, QPalette::Text));
     }
     paintStatus(painter, opt, index);
+    if (m_indentForLeftIcon && !(opt.features & QStyleOptionViewItem::HasDecoration))
+        opt.rect.setLeft(opt.rect.left() + opt.decorationSize.width() + 4);
 
     const int treeLine = index.data(VNItemDataRoles::TreeLineRole).toInt();
     if (treeLine & Connected)

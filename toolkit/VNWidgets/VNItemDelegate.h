@@ -34,6 +34,13 @@ public:
 
     // Thin vertical lines between the cells of a row (the look of dense tables).
     bool m_drawColumnSeparators = false;
+    // Where the text of cells without their own Qt::TextAlignmentRole goes.
+    Qt::Alignment m_alignment = Qt::AlignLeft | Qt::AlignVCenter;
+
+    // From now on a cell without an icon keeps the room of one, so that its text lines up with
+    // the texts of rows that show a left icon.
+    void updateLeftIconIndentationUpdateHandler();
+    bool indentsForLeftIcon() const { return m_indentForLeftIcon; }
 
     void setCheckIndicator(bool visible);
     bool hasCheckIndicator() const { return m_checkIndicator; }
@@ -62,6 +69,7 @@ private:
     void paintCheckIndicator(QPainter* painter, const QStyleOptionViewItem& option, Qt::CheckState state) const;
 
     bool m_checkIndicator = true;
+    bool m_indentForLeftIcon = false;
     QMargins m_checkMargins{3, 0, 3, 0};
     Qt::Alignment m_checkAlignment = Qt::AlignLeft | Qt::AlignVCenter;
 };

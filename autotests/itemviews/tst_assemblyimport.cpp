@@ -1,0 +1,233 @@
+#include "TestNewAssemblyImport.h"
+
+#include <TreeViewContextMenu.h>
+#include <VNButton.h>
+#include <VNItemDelegate.h>
+#include <VNLabel.h>
+#include <VNTreeView.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QSortFilterProxyModel>
+#include <QStandardItemModel>
+#include <QTest>
+
+namespace {
+// The visible names of the proxy's rows, depth first, children indented by two blanks.
+QStringList visibleNames(const QAbstractItemModel* model, const QModelIndex& parent = QModelIndex(), int depth = 0)
+{
+    QStringList names;
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        names << QString(depth * 2, QLatin1Char(' ')) + index.data().toString();
+        names << visibleNames(model, index, depth + 1);
+    }
+    return names;
+}
+
+QStandardItem* findItem(QStandardItemModel* model, const QString& name)
+{
+    const QList<QStandardItem*> found = model->findItems(name, Qt::MatchExactly | Qt::MatchRecursive);
+    return found.isEmpty() ? nullptr : found.first();
+}
+
+// Opens the context menu over the row of the item, as a right click does, and triggers an action.
+void triggerMenuAction(TestNewAssemblyImport& dialog, QStandardItem* item, const QString& text)
+{
+    VNTreeView* tree = dialog.tree();
+    const QModelIndex viewIndex = dialog.proxyModel()->mapFromSource(item->index());
+    QVERIFY(viewIndex.isValid());
+    tree->scrollTo(viewIndex);
+    emit tree->customContextMenuRequested(tree->visualRect(viewIndex).center());
+    auto* menu = tree->findChild<TreeViewContextMenu*>();
+    QVERIFY(menu);
+    QAction* chosen = nullptr;
+    for (QAction* action : menu->actions())
+        if (action->text() == text)
+            chosen = action;
+    QVERIFY(chosen && chosen->isEnabled());
+    chosen->trigger();
+    menu->close();
+    delete menu;
+}
+} // namespace
+
+class TestAssemblyImport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void contents();
+    void searchBar();
+    void filter_data();
+    void filter();
+    void resetClearsFilter();
+    void addToGroupKeepsItem();
+    void groupingTwiceNests();
+    void removeDeletesRowAndChildren();
+    void menuOverEmptySpaceIsGreyed();
+};
+
+void TestAssemblyImport::contents()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("Form"));
+    QCOMPARE(dialog.size(), QSize(900, 750));
+    QStandardItemModel* model = dialog.sourceModel();
+    QCOMPARE(model->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Name"));
+    QCOMPARE(model->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Comment"));
+    const QStringList expected{"Geometries",
+                               "  Geometry 0",
+                               "  Geometry 1",
+                               "  Geometry 2",
+                               "  Geometry 3",
+                               "Curves",
+                               "  Curve 0",
+                               "  Curve 1",
+                               "  Curve 2",
+                               "Points",
+                               "  Point 0",
+                               "  Point 1",
+                               "  Point 2",
+                               "  Point 3",
+                               "  Point 4",
+                               "Coordinate Systems",
+                               "  Coordinate System 0",
+                               "  Coordinate System 1"};
+    QCOMPARE(visibleNames(model), expected);
+    QCOMPARE(model->item(2)->child(4, 1)->text(), QStringLiteral("Enter Comment"));
+    QCOMPARE(model->item(2, 1)->text(), QString());
+    QCOMPARE(dialog.tree()->model(), dialog.proxyModel());
+    QVERIFY(dialog.tree()->isExpanded(dialog.proxyModel()->index(3, 0)));
+    QCOMPARE(dialog.tree()->contextMenuPolicy(), Qt::CustomContextMenu);
+    auto* comments = qobject_cast<VNItemDelegate*>(dialog.tree()->itemDelegateForColumn(1));
+    QVERIFY(comments && comments->indentsForLeftIcon());
+    auto* names = qobject_cast<VNItemDelegate*>(dialog.tree()->itemDelegateForColumn(0));
+    QVERIFY(names && names->hasCheckIndicator());
+    QCOMPARE(names->checkIndicatorMargins(), QMargins(0, 0, 6, 0));
+}
+
+void TestAssemblyImport::searchBar()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    QCOMPARE(dialog.searchField()->placeholderText(), QStringLiteral("Search..."));
+    QCOMPARE(dialog.searchField()->minimumHeight(), 22);
+    auto* bar = dialog.searchField()->parentWidget();
+    QCOMPARE(bar->property("NewAssemblyImport").toInt(), 1);
+    auto* reset = bar->findChild<VNButton*>();
+    QVERIFY(reset);
+    QCOMPARE(reset->toolTip(), QStringLiteral("Reset Search"));
+    QCOMPARE(reset->toolButtonStyle(), Qt::ToolButtonIconOnly);
+    QVERIFY(!reset->icon().isNull());
+    auto* icon = bar->findChild<VNLabel*>();
+    QVERIFY(icon && !icon->icon().isNull());
+}
+
+void TestAssemblyImport::filter_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QStringList>("visible");
+    const QStringList allNames{"Geometries",
+                               "  Geometry 0",
+                               "  Geometry 1",
+                               "  Geometry 2",
+                               "  Geometry 3",
+                               "Curves",
+                               "  Curve 0",
+                               "  Curve 1",
+                               "  Curve 2",
+                               "Points",
+                               "  Point 0",
+                               "  Point 1",
+                               "  Point 2",
+                               "  Point 3",
+                               "  Point 4",
+                               "Coordinate Systems",
+                               "  Coordinate System 0",
+                               "  Coordinate System 1"};
+    const QStringList points{"Points", "  Point 0", "  Point 1", "  Point 2", "  Point 3", "  Point 4"};
+    QTest::newRow("lower case") << "point" << points;
+    QTest::newRow("upper case") << "POINT" << points;
+    QTest::newRow("mixed case") << "pOiNt" << points;
+    QTest::newRow("regular expression") << "^curve [02]$" << QStringList{"Curves", "  Curve 0", "  Curve 2"};
+    QTest::newRow("no text shows all") << "" << allNames;
+    QTest::newRow("comment column") << "enter COMM" << allNames;
+    QTest::newRow("no match") << "xyz" << QStringList();
+}
+
+void TestAssemblyImport::filter()
+{
+    QFETCH(QString, search);
+    QFETCH(QStringList, visible);
+    TestNewAssemblyImport dialog(nullptr);
+    QTest::keyClicks(dialog.searchField(), search);
+    QCOMPARE(visibleNames(dialog.proxyModel()), visible);
+}
+
+void TestAssemblyImport::resetClearsFilter()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    dialog.searchField()->setText(QStringLiteral("curve"));
+    QCOMPARE(dialog.proxyModel()->rowCount(), 1);
+    dialog.searchField()->parentWidget()->findChild<VNButton*>()->click();
+    QCOMPARE(dialog.searchField()->text(), QString());
+    QCOMPARE(dialog.proxyModel()->rowCount(), 4);
+}
+
+void TestAssemblyImport::addToGroupKeepsItem()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    QStandardItem* point = findItem(dialog.sourceModel(), QStringLiteral("Point 2"));
+    triggerMenuAction(dialog, point, QStringLiteral("Add to Group"));
+    QStandardItem* points = dialog.sourceModel()->item(2);
+    QCOMPARE(points->rowCount(), 5);
+    QStandardItem* group = points->child(4);
+    QCOMPARE(group->text(), QStringLiteral("Group"));
+    QCOMPARE(group->child(0), point); // the same item, moved
+    QCOMPARE(group->child(0, 1)->text(), QStringLiteral("Enter Comment"));
+    QCOMPARE(points->child(2)->text(), QStringLiteral("Point 3"));
+}
+
+void TestAssemblyImport::groupingTwiceNests()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    QStandardItem* curve = findItem(dialog.sourceModel(), QStringLiteral("Curve 0"));
+    triggerMenuAction(dialog, curve, QStringLiteral("Add to Group"));
+    triggerMenuAction(dialog, curve, QStringLiteral("Add to Group"));
+    QStandardItem* outer = dialog.sourceModel()->item(1)->child(2);
+    QCOMPARE(outer->text(), QStringLiteral("Group"));
+    QCOMPARE(outer->rowCount(), 1);
+    QCOMPARE(outer->child(0)->text(), QStringLiteral("Group"));
+    QCOMPARE(outer->child(0)->child(0), curve);
+}
+
+void TestAssemblyImport::removeDeletesRowAndChildren()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    QStandardItem* geometry = findItem(dialog.sourceModel(), QStringLiteral("Geometry 1"));
+    triggerMenuAction(dialog, geometry, QStringLiteral("Add to Group"));
+    QStandardItem* group = dialog.sourceModel()->item(0)->child(3);
+    QCOMPARE(group->text(), QStringLiteral("Group"));
+    triggerMenuAction(dialog, group, QStringLiteral("Remove from Group"));
+    QCOMPARE(visibleNames(dialog.sourceModel()).mid(0, 5),
+             (QStringList{"Geometries", "  Geometry 0", "  Geometry 2", "  Geometry 3", "Curves"}));
+    QVERIFY(!findItem(dialog.sourceModel(), QStringLiteral("Geometry 1")));
+}
+
+void TestAssemblyImport::menuOverEmptySpaceIsGreyed()
+{
+    TestNewAssemblyImport dialog(nullptr);
+    dialog.show();
+    VNTreeView* tree = dialog.tree();
+    emit tree->customContextMenuRequested(QPoint(5, tree->viewport()->height() - 2));
+    auto* menu = tree->findChild<TreeViewContextMenu*>();
+    QVERIFY(menu);
+    QCOMPARE(menu->actions().size(), 2);
+    for (QAction* action : menu->actions())
+        QVERIFY(!action->isEnabled());
+    menu->close();
+    delete menu;
+}
+
+QTEST_MAIN(TestAssemblyImport)
+#include "tst_assemblyimport.moc"

@@ -1,0 +1,373 @@
+#include "TestMasterDetailTree.h"
+
+#include <VNContainerListControl.h>
+#include <VNControlledStackItem.h>
+#include <VNControlledStackWidget.h>
+#include <VNDragTreeWidget.h>
+#include <VNStackControllerWidget.h>
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMenu>
+#include <QPointer>
+#include <QTest>
+#include <QVBoxLayout>
+
+namespace {
+template<typename T>
+T* child(QWidget* dialog, const char* name)
+{
+    T* found = dialog->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qFatal("no %s", name);
+    return found;
+}
+
+void press(QWidget* dialog, const char* name)
+{
+    child<QAbstractButton>(dialog, name)->click();
+}
+
+// The page texts in depth-first order, read through the stack's depth-first lookup.
+QStringList dfsTexts(VNControlledStackWidget* stack)
+{
+    QStringList texts;
+    for (int i = 0; VNControlledStackItem* item = stack->itemAtDFSIndex(i); ++i)
+        texts << item->text();
+    return texts;
+}
+
+QStringList mirroredTexts(QTreeWidget* tree)
+{
+    QStringList texts;
+    for (QTreeWidgetItemIterator it(tree); *it; ++it)
+        texts << (*it)->text(0);
+    return texts;
+}
+
+QVariant marker(VNControlledStackItem* item)
+{
+    return item->data(0, VNControlledStackItem::SymmetryMarkerRole);
+}
+
+QTreeWidget* controllerTree(TestMasterDetailTree& dialog)
+{
+    return dialog.controller()->getListControl()->treeWidget();
+}
+
+const QStringList initialTexts{"Page 0",     "Sub Page 0", "Sub Page 1", "Sub Sub Page 0", "Sub Sub Page 1",
+                               "Sub Page 2", "Page 1",     "Page 2",     "Sub Page 0"};
+} // namespace
+
+class TestMasterDetail : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void form_data();
+    void form();
+    void initialContents();
+    void numberingRestartsAfterDeleteAll();
+    void subSubItemOnEmptyStackCreatesUpperLevels();
+    void checkableItemsOnlyForNewPages();
+    void symmetrySetupMarkers_data();
+    void symmetrySetupMarkers();
+    void makeSymmetrical_data();
+    void makeSymmetrical();
+    void selectionByDfsIndex();
+    void selectingShowsDetailPage();
+    void highlightFollowsCurrent();
+    void colourBoxes();
+    void groupHeaderAndMarkersArePainted();
+    void contextMenuNamesSelection();
+    void embeddedAndDeletedWithParent();
+};
+
+void TestMasterDetail::form_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("text");
+    const char* rows[][2] = {{"m_initialSetup", "Initial Setup"},
+                             {"m_symmetrySetup", "Symmetry Setup"},
+                             {"m_deleteAllBtn", "Delete All Items"},
+                             {"m_checkableStateCB", "Checkable Items"},
+                             {"m_symBtn", "Make Symmetrical"},
+                             {"m_addTopBtn", "Add Top Level Item"},
+                             {"m_addSubBtn", "Add SubItem"},
+                             {"m_addSubSubBtn", "Add Sub SubItem"},
+                             {"m_iconCB", "Items with additional Icons"},
+                             {"m_leftIconInIndentationCB", "Paint in Indentation"},
+                             {"m_includeTopLevelItemsCB", "Include TopLevelItems"},
+                             {"m_colorBoxCB", "Items with ColorBox"},
+                             {"m_showGroupHeader", "Show TopLevelItems as GroupHeader"},
+                             {"m_multiselectionEnabled", "Multiselection"},
+                             {"m_useHighlighting", "Use Highlighting"},
+                             {"m_selectBtn", "Set Selection"}};
+    for (const auto& row : rows)
+        QTest::newRow(row[0]) << row[0] << row[1];
+}
+
+void TestMasterDetail::form()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, text);
+    TestMasterDetailTree dialog(nullptr);
+    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestNavigationTree"));
+    auto* button = dialog.findChild<QAbstractButton*>(name);
+    QVERIFY(button);
+    QCOMPARE(button->text(), text);
+    QCOMPARE(child<QCheckBox>(&dialog, "m_multiselectionEnabled")->isChecked(), true);
+    QCOMPARE(child<QCheckBox>(&dialog, "m_leftIconInIndentationCB")->isEnabled(), false);
+    QCOMPARE(child<QComboBox>(&dialog, "m_alignmentCB")->currentText(), QStringLiteral("Left"));
+    QCOMPARE(controllerTree(dialog)->headerItem()->text(0), QStringLiteral("Controls"));
+}
+
+void TestMasterDetail::initialContents()
+{
+    TestMasterDetailTree dialog(nullptr);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    QCOMPARE(dfsTexts(stack), initialTexts);
+    QCOMPARE(stack->itemCount(), 3);
+    QCOMPARE(stack->itemAt(0)->itemAt(1)->itemCount(), 2);
+    for (int i = 0; i < initialTexts.size(); ++i)
+        QCOMPARE(stack->itemAtDFSIndex(i)->getDFSIndex(), i);
+    QVERIFY(!stack->itemAtDFSIndex(initialTexts.size()));
+    QVERIFY(!stack->itemAtDFSIndex(-1));
+    QCOMPARE(mirroredTexts(child<QTreeWidget>(&dialog, "m_qtreeWidget")), initialTexts);
+    QCOMPARE(mirroredTexts(child<QTreeWidget>(&dialog, "m_dragTreeWdg")), initialTexts);
+    QCOMPARE(stack->count(), initialTexts.size()); // one detail page per item
+    QVERIFY(!(stack->itemAt(0)->flags() & Qt::ItemIsEditable));
+    QVERIFY(stack->itemAt(0)->itemAt(0)->flags() & Qt::ItemIsEditable);
+}
+
+void TestMasterDetail::numberingRestartsAfterDeleteAll()
+{
+    TestMasterDetailTree dialog(nullptr);
+    press(&dialog, "m_deleteAllBtn");
+    QCOMPARE(dfsTexts(dialog.stackWidget()), QStringList());
+    QCOMPARE(dialog.stackWidget()->count(), 0);
+    QCOMPARE(child<QTreeWidget>(&dialog, "m_qtreeWidget")->topLevelItemCount(), 0);
+    press(&dialog, "m_addTopBtn");
+    press(&dialog, "m_addSubBtn");
+    press(&dialog, "m_addTopBtn");
+    press(&dialog, "m_addSubBtn");
+    QCOMPARE(dfsTexts(dialog.stackWidget()), (QStringList{"Page 0", "Sub Page 0", "Page 1", "Sub Page 0"}));
+    press(&dialog, "m_initialSetup");
+    QCOMPARE(dfsTexts(dialog.stackWidget()), initialTexts);
+}
+
+void TestMasterDetail::subSubItemOnEmptyStackCreatesUpperLevels()
+{
+    TestMasterDetailTree dialog(nullptr);
+    press(&dialog, "m_deleteAllBtn");
+    press(&dialog, "m_addSubSubBtn");
+    const QStringList expected{"Page 0", "Sub Page 0", "Sub Sub Page 0"};
+    QCOMPARE(dfsTexts(dialog.stackWidget()), expected);
+    QCOMPARE(mirroredTexts(child<QTreeWidget>(&dialog, "m_qtreeWidget")), expected);
+    QTreeWidget* mirror = child<QTreeWidget>(&dialog, "m_dragTreeWdg");
+    QCOMPARE(mirror->topLevelItem(0)->child(0)->child(0)->text(0), QStringLiteral("Sub Sub Page 0"));
+}
+
+void TestMasterDetail::checkableItemsOnlyForNewPages()
+{
+    TestMasterDetailTree dialog(nullptr);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    child<QCheckBox>(&dialog, "m_checkableStateCB")->setChecked(true);
+    QCOMPARE(stack->isCheckableItems(), VNControlledStackWidget::AllItem);
+    QVERIFY(!stack->itemAt(0)->data(0, Qt::CheckStateRole).isValid());
+    press(&dialog, "m_addTopBtn");
+    QCOMPARE(stack->itemAt(3)->checkState(0), Qt::Checked);
+    child<QCheckBox>(&dialog, "m_checkableStateCB")->setChecked(false);
+    QCOMPARE(stack->isCheckableItems(), VNControlledStackWidget::NoItem);
+    QCOMPARE(stack->itemAt(3)->checkState(0), Qt::Checked);
+    press(&dialog, "m_addTopBtn");
+    QVERIFY(!stack->itemAt(4)->data(0, Qt::CheckStateRole).isValid());
+}
+
+void TestMasterDetail::symmetrySetupMarkers_data()
+{
+    QTest::addColumn<int>("dfsIndex");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("marker");
+    const QVariant none;
+    const struct
+    {
+        int dfs;
+        const char* text;
+        QVariant marker;
+    } rows[] = {
+        {0, "Page 0", 0},         {1, "Page 1", 1},          {2, "Page 2", 2},         {3, "Page 3", none},
+        {4, "Sub Page 0", 0},     {6, "Sub Page 2", 2},      {7, "Page 4", none},      {8, "Sub Page 0", none},
+        {9, "Sub Sub Page 0", 0}, {11, "Sub Sub Page 2", 2}, {12, "Page 5", 1},        {13, "Sub Page 0", none},
+        {15, "Page 6", 2},        {18, "Page 7", none},      {19, "Sub Page 0", 0},    {20, "Sub Sub Page 0", none},
+        {21, "Page 8", 0},        {22, "Sub Page 0", 1},     {23, "Sub Page 1", 2},    {24, "Page 9", none},
+        {25, "Sub Page 0", 0},    {26, "Sub Sub Page 0", 1}, {27, "Sub Sub Page 1", 2}};
+    for (const auto& row : rows)
+        QTest::newRow(qPrintable(QStringLiteral("dfs %1").arg(row.dfs))) << row.dfs << row.text << row.marker;
+}
+
+void TestMasterDetail::symmetrySetupMarkers()
+{
+    QFETCH(int, dfsIndex);
+    QFETCH(QString, text);
+    QFETCH(QVariant, marker);
+    TestMasterDetailTree dialog(nullptr);
+    press(&dialog, "m_symmetrySetup");
+    QVERIFY(!dialog.stackWidget()->itemAtDFSIndex(28));
+    VNControlledStackItem* item = dialog.stackWidget()->itemAtDFSIndex(dfsIndex);
+    QVERIFY(item);
+    QCOMPARE(item->text(), text);
+    QCOMPARE(::marker(item).isValid(), marker.isValid());
+    if (marker.isValid())
+        QCOMPARE(::marker(item).toInt(), marker.toInt());
+}
+
+void TestMasterDetail::makeSymmetrical_data()
+{
+    QTest::addColumn<QList<int>>("selected");
+    QTest::addColumn<QList<int>>("markers");
+    QTest::newRow("one") << QList<int>{2} << QList<int>{0};
+    QTest::newRow("two") << QList<int>{1, 2} << QList<int>{1, 2};
+    QTest::newRow("three") << QList<int>{1, 2, 5} << QList<int>{1, 3, 2};
+}
+
+void TestMasterDetail::makeSymmetrical()
+{
+    QFETCH(QList<int>, selected);
+    QFETCH(QList<int>, markers);
+    TestMasterDetailTree dialog(nullptr);
+    for (int index : selected)
+        dialog.stackWidget()->itemAtDFSIndex(index)->setSelected(true);
+    press(&dialog, "m_symBtn");
+    for (int i = 0; i < selected.size(); ++i)
+        QCOMPARE(marker(dialog.stackWidget()->itemAtDFSIndex(selected.at(i))), QVariant(markers.at(i)));
+    QVERIFY(!marker(dialog.stackWidget()->itemAtDFSIndex(0)).isValid());
+}
+
+void TestMasterDetail::selectionByDfsIndex()
+{
+    TestMasterDetailTree dialog(nullptr);
+    auto* mirror = child<VNDragTreeWidget>(&dialog, "m_dragTreeWdg");
+    mirror->itemAtDFSIndex(3)->setSelected(true);
+    mirror->itemAtDFSIndex(7)->setSelected(true);
+    press(&dialog, "m_selectBtn");
+    QStringList selected;
+    for (QTreeWidgetItem* item : controllerTree(dialog)->selectedItems())
+        selected << item->text(0);
+    selected.sort();
+    QCOMPARE(selected, (QStringList{"Page 2", "Sub Sub Page 0"}));
+    QCOMPARE(dialog.stackWidget()->currentItem(), dialog.stackWidget()->itemAtDFSIndex(3));
+}
+
+void TestMasterDetail::selectingShowsDetailPage()
+{
+    TestMasterDetailTree dialog(nullptr);
+    VNControlledStackItem* item = dialog.stackWidget()->itemAtDFSIndex(4);
+    controllerTree(dialog)->setCurrentItem(item);
+    QWidget* page = dialog.stackWidget()->currentWidget();
+    QCOMPARE(page, item->page());
+    QCOMPARE(page->windowTitle(), QStringLiteral("Sub Sub Page 1"));
+    auto* header = page->findChild<QLabel*>();
+    QVERIFY(header);
+    QCOMPARE(header->text(), QStringLiteral("Sub Sub Page 1"));
+    QCOMPARE(header->property("detailheader").toBool(), true);
+}
+
+void TestMasterDetail::highlightFollowsCurrent()
+{
+    TestMasterDetailTree dialog(nullptr);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    auto highlighted = [stack](int dfs) {
+        return stack->itemAtDFSIndex(dfs)->data(0, VNControlledStackItem::HighlightRole).toBool();
+    };
+    child<QCheckBox>(&dialog, "m_useHighlighting")->setChecked(true);
+    controllerTree(dialog)->setCurrentItem(stack->itemAtDFSIndex(2));
+    QVERIFY(highlighted(3));
+    controllerTree(dialog)->setCurrentItem(stack->itemAtDFSIndex(6));
+    QVERIFY(!highlighted(3));
+    QVERIFY(highlighted(7));
+    child<QCheckBox>(&dialog, "m_useHighlighting")->setChecked(false);
+    controllerTree(dialog)->setCurrentItem(stack->itemAtDFSIndex(0));
+    QVERIFY(!highlighted(7));
+    QVERIFY(!highlighted(1));
+}
+
+void TestMasterDetail::colourBoxes()
+{
+    TestMasterDetailTree dialog(nullptr);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    auto box = [stack](int dfs) { return stack->itemAtDFSIndex(dfs)->data(0, VNControlledStackItem::ColorBoxRole); };
+    child<QCheckBox>(&dialog, "m_colorBoxCB")->setChecked(true);
+    QCOMPARE(box(0).value<QColor>(), QColor(255, 0, 0, 255));
+    QCOMPARE(box(1).value<QColor>(), QColor(0, 0, 255, 255));
+    QCOMPARE(box(3).value<QColor>(), QColor(0, 0, 255, 255));
+    press(&dialog, "m_addTopBtn");
+    QCOMPARE(box(9).value<QColor>(), QColor(0, 0, 255, 255)); // new pages get blue
+    child<QCheckBox>(&dialog, "m_colorBoxCB")->setChecked(false);
+    for (int i = 0; i < 10; ++i)
+        QVERIFY(!box(i).isValid());
+}
+
+void TestMasterDetail::groupHeaderAndMarkersArePainted()
+{
+    TestMasterDetailTree dialog(nullptr);
+    dialog.show();
+    QTreeWidget* tree = controllerTree(dialog);
+    VNControlledStackItem* page = dialog.stackWidget()->itemAt(1);
+    const QRect row = tree->visualItemRect(page);
+    const QPoint inside(row.right() - 30, row.center().y());
+    QCOMPARE(tree->viewport()->grab().toImage().pixelColor(inside), QColor(Qt::white));
+    child<QCheckBox>(&dialog, "m_showGroupHeader")->setChecked(true);
+    QCOMPARE(tree->viewport()->grab().toImage().pixelColor(inside), QColor(0xe1, 0xe6, 0xec));
+
+    page->setData(0, VNControlledStackItem::SymmetryMarkerRole, VNControlledStackItem::InnerItem);
+    const QImage image = tree->viewport()->grab().toImage();
+    bool bracket = false;
+    for (int x = row.right() - 10; x <= row.right(); ++x)
+        bracket = bracket || image.pixelColor(x, row.top() + 1) == QColor(0x2f, 0x6f, 0xb3);
+    QVERIFY(bracket);
+}
+
+void TestMasterDetail::contextMenuNamesSelection()
+{
+    TestMasterDetailTree dialog(nullptr);
+    dialog.show();
+    QTreeWidget* tree = controllerTree(dialog);
+    auto texts = [&](const QPoint& position) {
+        QScopedPointer<QMenu> menu(dialog.controller()->createContextMenuAt(position));
+        QStringList result;
+        for (QAction* action : menu->actions())
+            result << action->text();
+        return result;
+    };
+    const QPoint onPage = tree->visualItemRect(dialog.stackWidget()->itemAt(0)).center();
+    tree->itemAt(onPage)->setSelected(true);
+    QCOMPARE(texts(onPage), (QStringList{"Expand All", "Collapse All", "single Selection"}));
+    dialog.stackWidget()->itemAt(1)->setSelected(true);
+    QCOMPARE(texts(onPage), (QStringList{"Expand All", "Collapse All", "multi selection"}));
+    QCOMPARE(texts(QPoint(5, tree->viewport()->height() - 2)), (QStringList{"Expand All", "Collapse All"}));
+}
+
+void TestMasterDetail::embeddedAndDeletedWithParent()
+{
+    auto* parent = new QWidget;
+    auto* layout = new QVBoxLayout(parent);
+    QPointer<TestMasterDetailTree> dialog = new TestMasterDetailTree(parent);
+    dialog->setWindowFlags(Qt::Widget);
+    layout->addWidget(dialog);
+    parent->show();
+    QVERIFY(QTest::qWaitForWindowExposed(parent));
+    QVERIFY(!dialog->isWindow());
+    QVERIFY(dialog->isVisible());
+    QPointer<QWidget> page = dialog->stackWidget()->itemAt(0)->page();
+    press(dialog, "m_symmetrySetup");
+    QVERIFY(!page); // cleared pages are deleted
+    page = dialog->stackWidget()->itemAt(0)->page();
+    delete parent;
+    QVERIFY(!dialog);
+    QVERIFY(!page);
+}
+
+QTEST_MAIN(TestMasterDetail)
+#include "tst_masterdetailtree.moc"

@@ -1,0 +1,3 @@
+#include "VNStackContextHandler.h"
+
+VNStackContextHandler::~VNStackContextHandler() = default;
