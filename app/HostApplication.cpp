@@ -1,13 +1,20 @@
 #include "HostApplication.h"
 
+#include "ContactSheet.h"
+#include "ObjectMap.h"
+
 #include <TestWidgetCollection.h>
 #include <VNStyleSheet.h>
+
+#include <algorithm>
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
+#include <QFont>
+#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLayout>
 #include <QPixmap>
@@ -19,8 +26,11 @@
 #include <QTranslator>
 
 namespace {
-// Buttons whose window runs modally at once; a screenshot run would wait for a user.
-const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
+// Shipped by Debian's fonts-dejavu-core, so that texts measure the same on every machine.
+const QString reproducibleFontFile = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
+const int reproducibleFontPointSize = 9;
+// How long a window that runs modally stays open before it is mapped and ended.
+const int modalWindowDelayMs = 200;
 // Built from the collection's own texts and embedded into the library when lupdate and lrelease
 // were found at build time.
 const QString mockTranslation = QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm");
@@ -55,7 +65,8 @@ bool isFloatingChild(QWidget* widget)
     return parent && parent->isWindow() && (!parent->layout() || parent->layout()->indexOf(widget) < 0);
 }
 
-// Windows that became visible, or windows into which a floating child was placed.
+// Windows that became visible, or windows into which a floating child was placed, ordered by
+// object name so that every run numbers them alike.
 QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
 {
     QList<QWidget*> windows;
@@ -66,6 +77,8 @@ QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
         if (!windows.contains(widget->window()))
             windows << widget->window();
     }
+    std::sort(windows.begin(), windows.end(),
+              [](const QWidget* left, const QWidget* right) { return left->objectName() < right->objectName(); });
     return windows;
 }
 
@@ -106,12 +119,20 @@ int HostApplication::start(const QStringList& arguments)
         QStringLiteral("mock-locale"),
         QStringLiteral("Show every translated text in mock Swedish, so that a text that stays English is one that "
                        "is hard-coded."));
-    parser.addOptions({listOption, openOption, screenshotOption, mockLocaleOption});
+    const QCommandLineOption objectMapOption(
+        QStringLiteral("object-map"),
+        QStringLiteral("Open every launcher button in turn, as --screenshot does, write every window's tree of "
+                       "widgets (object name, classes, path of object names, geometry, visibility, enabled "
+                       "state, text) as JSON to FILE, then exit."),
+        QStringLiteral("FILE"));
+    parser.addOptions({listOption, openOption, screenshotOption, objectMapOption, mockLocaleOption});
     parser.process(arguments);
     // The texts are translated when the forms are set up, so the translation comes first.
     if (parser.isSet(mockLocaleOption) && !installMockTranslation())
         return 1;
 
+    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption))
+        useReproducibleLook();
     VNStyleSheet::applyTo(qApp);
     m_panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
 
@@ -119,6 +140,8 @@ int HostApplication::start(const QStringList& arguments)
         return listButtons();
     if (parser.isSet(screenshotOption))
         return takeScreenshots(parser.value(screenshotOption));
+    if (parser.isSet(objectMapOption))
+        return writeObjectMap(parser.value(objectMapOption));
 
     const QStringList names = parser.values(openOption);
     for (const QString& name : names) {
@@ -209,6 +232,62 @@ bool HostApplication::saveScreenshot(const QDir& directory, const QString& name,
     return true;
 }
 
+void HostApplication::useReproducibleLook()
+{
+    const int id = QFontDatabase::addApplicationFont(reproducibleFontFile);
+    const QStringList families = QFontDatabase::applicationFontFamilies(id);
+    if (families.isEmpty()) {
+        err() << "testwidgetcollection: \"" << reproducibleFontFile
+              << "\" is missing (Debian package fonts-dejavu-core); texts use the system font." << Qt::endl;
+        return;
+    }
+    QFont font(families.first(), reproducibleFontPointSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QApplication::setFont(font);
+}
+
+bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
+{
+    m_panel->show();
+    QApplication::processEvents();
+    if (!visit(nullptr, m_panel.get(), 0))
+        return false;
+    QList<LauncherButton> buttons = launcherButtons();
+    // The loupe goes last, so that it lands in the most recently opened dialog.
+    std::stable_partition(buttons.begin(), buttons.end(), [](const LauncherButton& entry) {
+        return entry.button->objectName() != QLatin1String("loupe");
+    });
+    bool ok = true;
+    for (const LauncherButton& entry : buttons) {
+        const QSet<QWidget*> before = visibleWidgets();
+        QList<QWidget*> visited;
+        const auto visitNewWindows = [&] {
+            const QList<QWidget*> windows = newlyShownWindows(before);
+            for (QWidget* window : windows) {
+                if (ok && !visited.contains(window))
+                    ok = visit(entry.button, window, visited.size());
+                visited << window;
+            }
+        };
+        // A window that runs modally is visited from inside its own event loop, then ended.
+        QTimer modalWatch;
+        QObject::connect(&modalWatch, &QTimer::timeout, [&] {
+            if (QApplication::activeModalWidget()) {
+                visitNewWindows();
+                endModalWindow();
+            }
+        });
+        modalWatch.start(modalWindowDelayMs);
+        entry.button->click();
+        QApplication::processEvents();
+        modalWatch.stop();
+        visitNewWindows();
+        if (!ok)
+            return false;
+    }
+    return true;
+}
+
 int HostApplication::takeScreenshots(const QString& directory)
 {
     const QDir dir(directory);
@@ -219,33 +298,46 @@ int HostApplication::takeScreenshots(const QString& directory)
     }
     probe.close();
 
-    m_panel->show();
-    QApplication::processEvents();
-    if (!saveScreenshot(dir, QStringLiteral("TestWidgetCollection"), m_panel.get()))
-        return 1;
-    QList<LauncherButton> buttons = launcherButtons();
-    // The loupe goes last, so that it lands in the most recently opened dialog.
-    std::stable_partition(buttons.begin(), buttons.end(), [](const LauncherButton& entry) {
-        return entry.button->objectName() != QLatin1String("loupe");
+    ContactSheet sheet;
+    const bool saved = visitEveryWindow([&](const QPushButton* button, QWidget* window, int index) {
+        const QString name = button ? button->objectName() : m_panel->objectName();
+        const QString shotName = index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1);
+        sheet.addShot(name, button ? button->text() : m_panel->windowTitle(), shotName + QStringLiteral(".png"));
+        return saveScreenshot(dir, shotName, window);
     });
-    for (const LauncherButton& entry : buttons) {
-        const QString name = entry.button->objectName();
-        if (blockingButtons.contains(name))
-            continue;
-        const QSet<QWidget*> before = visibleWidgets();
-        QTimer watchdog;
-        QObject::connect(&watchdog, &QTimer::timeout, &endModalWindow);
-        watchdog.start(2000);
-        entry.button->click();
-        QApplication::processEvents();
-        watchdog.stop();
-        const QList<QWidget*> windows = newlyShownWindows(before);
-        for (int index = 0; index < windows.size(); ++index) {
-            const QString shotName = index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1);
-            if (!saveScreenshot(dir, shotName, windows.at(index)))
-                return 1;
-        }
+    if (!saved)
+        return 1;
+    const QString indexPath = dir.filePath(QStringLiteral("index.html"));
+    const QString error = sheet.save(indexPath);
+    if (!error.isEmpty()) {
+        err() << "testwidgetcollection: cannot write \"" << indexPath << "\": " << error << Qt::endl;
+        return 1;
     }
-    out().flush();
+    out() << indexPath << Qt::endl;
+    return 0;
+}
+
+int HostApplication::writeObjectMap(const QString& path)
+{
+    // Checked first, so that an unwritable place is reported before every window opens.
+    const QFileInfo target(path);
+    QTemporaryFile probe(target.absoluteDir().filePath(QStringLiteral("probe-XXXXXX")));
+    if (target.isDir() || !probe.open()) {
+        err() << "testwidgetcollection: cannot write the object map to \"" << path << "\"." << Qt::endl;
+        return 1;
+    }
+    probe.close();
+
+    ObjectMap map;
+    visitEveryWindow([&](const QPushButton* button, QWidget* window, int) {
+        map.addWindow(button ? button->objectName() : QString(), window);
+        return true;
+    });
+    const QString error = map.save(path);
+    if (!error.isEmpty()) {
+        err() << "testwidgetcollection: cannot write \"" << path << "\": " << error << Qt::endl;
+        return 1;
+    }
+    out() << path << Qt::endl;
     return 0;
 }

@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QDir;
@@ -11,7 +12,7 @@ class QWidget;
 class TestWidgetCollection;
 
 // The host of the collection: creates the panel in the toolkit's style and carries out the
-// command line (--list, --open, --screenshot, --mock-locale).
+// command line (--list, --open, --screenshot, --object-map, --mock-locale).
 class HostApplication
 {
 public:
@@ -29,12 +30,19 @@ private:
         int column;
     };
 
+    // Called with each window that appears, numbered per button; the panel comes first, without a
+    // button. Returns false to stop the run.
+    using WindowVisitor = std::function<bool(const QPushButton* button, QWidget* window, int index)>;
+
     QList<LauncherButton> launcherButtons() const;
     QPushButton* findButton(const QString& name) const;
     int listButtons() const;
     int openButtons(const QStringList& names);
+    bool visitEveryWindow(const WindowVisitor& visit);
     int takeScreenshots(const QString& directory);
+    int writeObjectMap(const QString& path);
     bool saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const;
+    void useReproducibleLook();
     bool installMockTranslation();
 
     std::unique_ptr<QTranslator> m_mockTranslation;

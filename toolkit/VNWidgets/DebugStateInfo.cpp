@@ -5,11 +5,16 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPixmap>
 #include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QTimer>
 #include <QTreeWidget>
@@ -18,6 +23,10 @@
 namespace {
 const int widgetPointerRole = Qt::UserRole + 1;
 const int refreshIntervalMs = 250;
+const QSize swatchSize(16, 16);
+// Application-wide, because the keyboard focus is in the window being inspected.
+const QKeySequence freezeKey(Qt::Key_F8);
+const QKeySequence copyImageKey(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
 
 QString yesNo(bool value)
 {
@@ -56,11 +65,26 @@ DebugStateInfo::DebugStateInfo(QWidget* parent)
     m_follow = new QCheckBox(tr("Follow mouse"), this);
     m_follow->setObjectName(QStringLiteral("followMouseCheckBox"));
     m_follow->setChecked(true);
+    m_follow->setToolTip(tr("%1 freezes or resumes following the mouse in every window.")
+                             .arg(freezeKey.toString(QKeySequence::NativeText)));
     auto* rebuild = new QPushButton(tr("Refresh Windows"), this);
     rebuild->setObjectName(QStringLiteral("refreshWindowsButton"));
     m_title = new QLabel(this);
     m_title->setObjectName(QStringLiteral("inspectedLabel"));
     m_title->setTextInteractionFlags(Qt::TextSelectableByMouse);
+
+    m_pixelSwatch = new QLabel(this);
+    m_pixelSwatch->setObjectName(QStringLiteral("pixelSwatch"));
+    m_pixelSwatch->setFixedSize(swatchSize);
+    m_pixelText = new QLabel(this);
+    m_pixelText->setObjectName(QStringLiteral("pixelColorLabel"));
+    m_pixelText->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* copyImage = new QPushButton(tr("Copy Image"), this);
+    copyImage->setObjectName(QStringLiteral("copyImageButton"));
+    copyImage->setToolTip(tr("Copies the image of the inspected widget to the clipboard (%1).")
+                              .arg(copyImageKey.toString(QKeySequence::NativeText)));
+    m_copyStatus = new QLabel(this);
+    m_copyStatus->setObjectName(QStringLiteral("copyStatusLabel"));
 
     m_windowTree = new QTreeWidget(this);
     m_windowTree->setObjectName(QStringLiteral("windowTree"));
@@ -80,23 +104,33 @@ DebugStateInfo::DebugStateInfo(QWidget* parent)
     top->addWidget(m_follow);
     top->addWidget(m_title, 1);
     top->addWidget(rebuild);
+    auto* pixelRow = new QHBoxLayout;
+    pixelRow->addWidget(new QLabel(tr("Pixel under mouse:"), this));
+    pixelRow->addWidget(m_pixelSwatch);
+    pixelRow->addWidget(m_pixelText, 1);
+    pixelRow->addWidget(m_copyStatus);
+    pixelRow->addWidget(copyImage);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
+    layout->addLayout(pixelRow);
     layout->addWidget(splitter, 1);
 
     connect(rebuild, &QPushButton::clicked, this, &DebugStateInfo::rebuildWindowTree);
     connect(m_windowTree, &QTreeWidget::itemClicked, this, &DebugStateInfo::onTreeItemActivated);
     connect(m_windowTree, &QTreeWidget::itemActivated, this, &DebugStateInfo::onTreeItemActivated);
 
+    connect(copyImage, &QPushButton::clicked, this, &DebugStateInfo::copyInspectedImage);
+    auto* freeze = new QShortcut(freezeKey, this, nullptr, nullptr, Qt::ApplicationShortcut);
+    connect(freeze, &QShortcut::activated, this, &DebugStateInfo::toggleFollowingMouse);
+    auto* copy = new QShortcut(copyImageKey, this, nullptr, nullptr, Qt::ApplicationShortcut);
+    connect(copy, &QShortcut::activated, this, &DebugStateInfo::copyInspectedImage);
+
     m_timer = new QTimer(this);
     m_timer->setInterval(refreshIntervalMs);
-    connect(m_timer, &QTimer::timeout, this, [this] {
-        if (isFollowingMouse())
-            followMouse();
-        refresh();
-    });
+    connect(m_timer, &QTimer::timeout, this, &DebugStateInfo::poll);
     m_timer->start();
     refresh();
+    showPixel();
     QTimer::singleShot(0, this, &DebugStateInfo::rebuildWindowTree);
 }
 
@@ -112,6 +146,62 @@ void DebugStateInfo::setFollowingMouse(bool follow)
     m_follow->setChecked(follow);
 }
 
+void DebugStateInfo::toggleFollowingMouse()
+{
+    setFollowingMouse(!isFollowingMouse());
+}
+
+void DebugStateInfo::poll()
+{
+    if (isFollowingMouse())
+        followMouse();
+    refresh();
+}
+
+QString DebugStateInfo::colorText(const QColor& color)
+{
+    if (!color.isValid())
+        return QStringLiteral("-");
+    return QStringLiteral("%1  RGB(%2, %3, %4)")
+        .arg(color.name())
+        .arg(color.red())
+        .arg(color.green())
+        .arg(color.blue());
+}
+
+void DebugStateInfo::samplePixel(const QPoint& globalPosition)
+{
+    QScreen* screen = QGuiApplication::screenAt(globalPosition);
+    if (!screen) {
+        m_pixelColor = QColor();
+        return;
+    }
+    // The screen's pixel rather than a widget's rendering: what the user sees, overlapping windows
+    // and floating children included.
+    const QPoint onScreen = globalPosition - screen->geometry().topLeft();
+    const QImage pixel = screen->grabWindow(0, onScreen.x(), onScreen.y(), 1, 1).toImage();
+    m_pixelColor = pixel.isNull() ? QColor() : pixel.pixelColor(0, 0);
+}
+
+void DebugStateInfo::showPixel()
+{
+    m_pixelText->setText(colorText(m_pixelColor));
+    QPixmap swatch(swatchSize);
+    swatch.fill(m_pixelColor.isValid() ? m_pixelColor : QColor(Qt::transparent));
+    m_pixelSwatch->setPixmap(swatch);
+}
+
+void DebugStateInfo::copyInspectedImage()
+{
+    if (!m_inspected) {
+        m_copyStatus->setText(tr("No widget to copy"));
+        return;
+    }
+    const QImage image = m_inspected->grab().toImage();
+    QApplication::clipboard()->setImage(image);
+    m_copyStatus->setText(tr("Copied %1 x %2").arg(image.width()).arg(image.height()));
+}
+
 void DebugStateInfo::inspect(QWidget* widget)
 {
     m_inspected = widget;
@@ -125,7 +215,12 @@ bool DebugStateInfo::belongsToInspector(const QWidget* widget) const
 
 void DebugStateInfo::followMouse()
 {
-    QWidget* underMouse = QApplication::widgetAt(QCursor::pos());
+    const QPoint position = QCursor::pos();
+    QWidget* underMouse = QApplication::widgetAt(position);
+    if (!belongsToInspector(underMouse)) {
+        samplePixel(position);
+        showPixel();
+    }
     // Moving the mouse over the inspector itself keeps the last target, so it can be read.
     if (underMouse && !belongsToInspector(underMouse) && underMouse != m_inspected)
         inspect(underMouse);

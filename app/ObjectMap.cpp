@@ -1,0 +1,88 @@
+#include "ObjectMap.h"
+
+#include <QJsonDocument>
+#include <QMetaProperty>
+#include <QSaveFile>
+#include <QWidget>
+
+namespace {
+QJsonArray classChain(const QWidget* widget)
+{
+    QJsonArray classes;
+    for (const QMetaObject* meta = widget->metaObject(); meta; meta = meta->superClass())
+        classes.append(QString::fromLatin1(meta->className()));
+    return classes;
+}
+
+QJsonObject rectObject(const QRect& rect)
+{
+    return QJsonObject{{QStringLiteral("x"), rect.x()},
+                       {QStringLiteral("y"), rect.y()},
+                       {QStringLiteral("width"), rect.width()},
+                       {QStringLiteral("height"), rect.height()}};
+}
+
+// A robot reads what the widget shows: its text or title; a window's title is kept for windows only,
+// because every widget carries an (unused) one.
+void addTexts(const QWidget* widget, QJsonObject& node)
+{
+    const QMetaObject* meta = widget->metaObject();
+    for (const char* name : {"text", "title"}) {
+        const int index = meta->indexOfProperty(name);
+        if (index >= 0 && meta->property(index).isReadable())
+            node.insert(QLatin1String(name), meta->property(index).read(widget).toString());
+    }
+    if (widget->isWindow())
+        node.insert(QStringLiteral("windowTitle"), widget->windowTitle());
+}
+} // namespace
+
+QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath)
+{
+    const QString name = widget->objectName();
+    // Unnamed containers are not addressable, so they do not add a step to the path.
+    const QString path = parentPath.isEmpty() || name.isEmpty() ? (name.isEmpty() ? parentPath : name)
+                                                                : parentPath + QLatin1Char('/') + name;
+    const QJsonArray classes = classChain(widget);
+    QJsonObject node{{QStringLiteral("objectName"), name},
+                     {QStringLiteral("class"), classes.first()},
+                     {QStringLiteral("classes"), classes},
+                     {QStringLiteral("path"), path},
+                     {QStringLiteral("geometry"), rectObject(widget->geometry())},
+                     {QStringLiteral("windowGeometry"),
+                      rectObject(QRect(widget->mapTo(widget->window(), QPoint()), widget->size()))},
+                     {QStringLiteral("visible"), widget->isVisible()},
+                     {QStringLiteral("enabled"), widget->isEnabled()}};
+    if (widget->isWindow())
+        node.insert(QStringLiteral("windowGeometry"), rectObject(QRect(QPoint(), widget->size())));
+    addTexts(widget, node);
+    QJsonArray children;
+    const QList<QWidget*> childWidgets = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (const QWidget* child : childWidgets) {
+        // Windows owned by this one are mapped on their own.
+        if (!child->isWindow())
+            children.append(describe(child, path));
+    }
+    if (!children.isEmpty())
+        node.insert(QStringLiteral("children"), children);
+    return node;
+}
+
+void ObjectMap::addWindow(const QString& button, const QWidget* window)
+{
+    m_windows.append(
+        QJsonObject{{QStringLiteral("button"), button}, {QStringLiteral("window"), describe(window, QString())}});
+}
+
+QJsonObject ObjectMap::toJson() const
+{
+    return QJsonObject{{QStringLiteral("windows"), m_windows}};
+}
+
+QString ObjectMap::save(const QString& path) const
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(QJsonDocument(toJson()).toJson()) < 0 || !file.commit())
+        return file.errorString();
+    return QString();
+}
