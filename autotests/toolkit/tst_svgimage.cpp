@@ -151,8 +151,8 @@ void TestSVGImage::invalidSources_data()
                     .arg(level - 1);
     bomb += QStringLiteral("]>");
     QTest::newRow("entity expansion bomb") << svg("<text>&a9;</text>", bomb);
-    QTest::newRow("entity with markup")
-        << svg("<text>a &e; b</text>", "<!DOCTYPE svg [ <!ENTITY e \"<tspan>x</tspan>\"> ]>");
+    QTest::newRow("entity with markup") << svg("<text>a &e; b</text>",
+                                               "<!DOCTYPE svg [ <!ENTITY e \"<tspan>x</tspan>\"> ]>");
     QTest::newRow("huge") << svg(QStringLiteral("<text>%1</text>").arg(QString(int(SVGImage::maximumSourceSize), 'x')));
 }
 
