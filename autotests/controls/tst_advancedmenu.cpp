@@ -146,54 +146,25 @@ void TestAdvancedMenuDialog::form_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("text");
-    QTest::newRow("modify") << "m_advancedBtnModify"
-                            << "VNButton"
-                            << "Modify";
-    QTest::newRow("one group") << "m_advancedBtnOneGroup"
-                               << "VNButton"
-                               << "One Group";
-    QTest::newRow("list") << "m_advanceListBtn"
-                          << "VNButton"
-                          << "List";
-    QTest::newRow("label") << "vnLabel"
-                           << "VNLabel"
-                           << "VNAdvancedMenu with ActionsBar Buttons";
-    QTest::newRow("label 2") << "vnLabel_2"
-                             << "VNLabel"
-                             << "VNAdvancedListMenu";
-    QTest::newRow("label 4") << "vnLabel_4"
-                             << "VNLabel"
-                             << "Auto Main Action Update Test";
-    QTest::newRow("link") << "commandLinkButton"
-                          << "QCommandLinkButton"
-                          << "Embed: Rectangle";
-    QTest::newRow("link 2") << "commandLinkButton_2"
-                            << "QCommandLinkButton"
-                            << "";
-    QTest::newRow("check box group") << "m_CheckBoxGroupBtn"
-                                     << "VNButton"
-                                     << "CheckBoxGroup";
-    QTest::newRow("sub menu") << "m_advancedSubMenuButton"
-                              << "VNButton"
-                              << "Add";
-    QTest::newRow("triggered") << "m_triggeredActionCB"
-                               << "QCheckBox"
-                               << "Triggered Action as Main";
-    QTest::newRow("disabled") << "m_disabledActionCB"
-                              << "QCheckBox"
-                              << "Update Disabled Action";
-    QTest::newRow("disable") << "m_disableMainActionBtn"
-                             << "QPushButton"
-                             << "Disable Main Action";
-    QTest::newRow("enable") << "m_enableAllActionsBtn"
-                            << "QPushButton"
-                            << "Enable All Actions";
-    QTest::newRow("separator") << "vnSeparator"
-                               << "VNSeparator"
-                               << "";
-    QTest::newRow("separator 2") << "vnSeparator_2"
-                                 << "VNSeparator"
-                                 << "";
+    const auto row = [](const char* tag, const char* name, const char* className, const char* text) {
+        QTest::newRow(tag) << name << className << text;
+    };
+    row("modify", "m_advancedBtnModify", "VNButton", "Modify");
+    row("one group", "m_advancedBtnOneGroup", "VNButton", "One Group");
+    row("list", "m_advanceListBtn", "VNButton", "List");
+    row("label", "vnLabel", "VNLabel", "VNAdvancedMenu with ActionsBar Buttons");
+    row("label 2", "vnLabel_2", "VNLabel", "VNAdvancedListMenu");
+    row("label 4", "vnLabel_4", "VNLabel", "Auto Main Action Update Test");
+    row("link", "commandLinkButton", "QCommandLinkButton", "Embed: Rectangle");
+    row("link 2", "commandLinkButton_2", "QCommandLinkButton", "");
+    row("check box group", "m_CheckBoxGroupBtn", "VNButton", "CheckBoxGroup");
+    row("sub menu", "m_advancedSubMenuButton", "VNButton", "Add");
+    row("triggered", "m_triggeredActionCB", "QCheckBox", "Triggered Action as Main");
+    row("disabled", "m_disabledActionCB", "QCheckBox", "Update Disabled Action");
+    row("disable", "m_disableMainActionBtn", "QPushButton", "Disable Main Action");
+    row("enable", "m_enableAllActionsBtn", "QPushButton", "Enable All Actions");
+    row("separator", "vnSeparator", "VNSeparator", "");
+    row("separator 2", "vnSeparator_2", "VNSeparator", "");
 }
 
 void TestAdvancedMenuDialog::form()
