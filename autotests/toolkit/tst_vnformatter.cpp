@@ -17,7 +17,6 @@ private slots:
     void init();
     void cleanup();
 
-    void notationEnum();
     void notation_data();
     void notation();
     void fieldWidthAndEmpty();
@@ -65,16 +64,6 @@ void TestVNFormatter::clearGlobalDisplayUnits()
     const QMetaEnum quantities = QMetaEnum::fromType<UnitConverter::Quantity>();
     for (int i = 0; i < quantities.keyCount(); ++i)
         VNFormatter::setGlobalDisplayUnit(UnitConverter::Quantity(quantities.value(i)), QString());
-}
-
-void TestVNFormatter::notationEnum()
-{
-    const QMetaEnum notations = QMetaEnum::fromType<VNFormatter::OutputNotation>();
-    QCOMPARE(notations.name(), "OutputNotation");
-    const char* keys[] = {"StandardNotation", "ScientificNotation", "AutomaticNotation", "EngineeringNotation"};
-    QCOMPARE(notations.keyCount(), 4);
-    for (int i = 0; i < 4; ++i)
-        QCOMPARE(notations.keyToValue(keys[i]), i);
 }
 
 void TestVNFormatter::notation_data()
@@ -144,21 +133,15 @@ void TestVNFormatter::textRoundTrip_data()
     QTest::addColumn<int>("notation");
     QTest::addColumn<QString>("expectedText");
 
-    QTest::newRow("C, mm shown in inch") << "C"
-                                         << "mm"
-                                         << "inch" << 0 << "48.6050 inch";
-    QTest::newRow("German, no groups") << "de_DE"
-                                       << "mm"
-                                       << "mm" << 0 << "1234,5678 mm";
-    QTest::newRow("US English, no groups") << "en_US"
-                                           << "mm"
-                                           << "mm" << 0 << "1234.5678 mm";
-    QTest::newRow("German, scientific") << "de_DE"
-                                        << "N"
-                                        << "kN" << 1 << "1,2346e+00 kN";
-    QTest::newRow("German, engineering") << "de_DE"
-                                         << "s"
-                                         << "min" << 3 << "20,576e+00 min";
+    const auto row = [](const char* tag, const char* locale, const char* valueUnit, const char* displayUnit,
+                        int notation, const char* text) {
+        QTest::newRow(tag) << locale << valueUnit << displayUnit << notation << text;
+    };
+    row("C, mm shown in inch", "C", "mm", "inch", 0, "48.6050 inch");
+    row("German, no groups", "de_DE", "mm", "mm", 0, "1234,5678 mm");
+    row("US English, no groups", "en_US", "mm", "mm", 0, "1234.5678 mm");
+    row("German, scientific", "de_DE", "N", "kN", 1, "1,2346e+00 kN");
+    row("German, engineering", "de_DE", "s", "min", 3, "20,576e+00 min");
 }
 
 void TestVNFormatter::textRoundTrip()
@@ -195,12 +178,12 @@ void TestVNFormatter::valueFromText_data()
     QTest::addColumn<bool>("ok");
     QTest::addColumn<double>("expectedMm");
 
-    QTest::newRow("German decimal comma") << "de_DE"
-                                          << ""
-                                          << "1,5" << true << 1.5;
-    QTest::newRow("German, C decimal point") << "de_DE"
-                                             << ""
-                                             << "1.5" << true << 1.5;
+    const auto row = [](const char* tag, const char* locale, const char* displayUnit, const char* text, bool ok,
+                        double mm) {
+        QTest::newRow(tag) << locale << displayUnit << QString::fromUtf8(text) << ok << mm;
+    };
+    row("German decimal comma", "de_DE", "", "1,5", true, 1.5);
+    row("German, C decimal point", "de_DE", "", "1.5", true, 1.5);
     // A separator never changes the magnitude: grouping is refused, and so is what could be read
     // either way.
     const struct
@@ -217,34 +200,18 @@ void TestVNFormatter::valueFromText_data()
         {"fr_FR", "1\u202f000", false, 0}, {"fr_FR", "0,5", true, 0.5},       {"fr_FR", "0.5", true, 0.5},
         {"de_CH", "1\u2019000", false, 0}, {"C", "1,500", false, 0},          {"de_DE", "0.125 mm", true, 0.125},
     };
-    for (const auto& row : separators) {
-        QTest::addRow("%s %s", row.locale, row.text)
-            << row.locale << "" << QString::fromUtf8(row.text) << row.ok << row.value;
+    for (const auto& separator : separators) {
+        QTest::addRow("%s %s", separator.locale, separator.text)
+            << separator.locale << "" << QString::fromUtf8(separator.text) << separator.ok << separator.value;
     }
-    QTest::newRow("no unit means display unit") << "C"
-                                                << "inch"
-                                                << "2" << true << 50.8;
-    QTest::newRow("typed unit wins") << "C"
-                                     << "inch"
-                                     << "2 cm" << true << 20.0;
-    QTest::newRow("unit without space") << "C"
-                                        << ""
-                                        << "1e-3m" << true << 1.0;
-    QTest::newRow("unit of another quantity") << "C"
-                                              << ""
-                                              << "5 deg" << false << 0.0;
-    QTest::newRow("unknown unit") << "C"
-                                  << ""
-                                  << "5 furlong" << false << 0.0;
-    QTest::newRow("not a number") << "C"
-                                  << ""
-                                  << "abc" << false << 0.0;
-    QTest::newRow("blank") << "C"
-                           << ""
-                           << "  " << false << 0.0;
-    QTest::newRow("infinite") << "C"
-                              << ""
-                              << "inf" << false << 0.0;
+    row("no unit means display unit", "C", "inch", "2", true, 50.8);
+    row("typed unit wins", "C", "inch", "2 cm", true, 20.0);
+    row("unit without space", "C", "", "1e-3m", true, 1.0);
+    row("unit of another quantity", "C", "", "5 deg", false, 0.0);
+    row("unknown unit", "C", "", "5 furlong", false, 0.0);
+    row("not a number", "C", "", "abc", false, 0.0);
+    row("blank", "C", "", "  ", false, 0.0);
+    row("infinite", "C", "", "inf", false, 0.0);
 }
 
 void TestVNFormatter::valueFromText()
