@@ -51,6 +51,14 @@ QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArra
     return file.fileName();
 }
 
+// The compose form's connection by name to a missing slot warns while the dialog is built.
+void expectComposeConnectWarnings()
+{
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("sender name"));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
+}
+
 // Reads the receiver count of a signal, which QObject keeps protected.
 struct ReceiverCount : QObject
 {
@@ -220,9 +228,7 @@ void TestImageDialogs::forms()
     QFETCH(QString, text);
     std::unique_ptr<QDialog> window;
     if (dialog == "TestComposePixmap") {
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("sender name"));
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
+        expectComposeConnectWarnings();
         window = std::make_unique<TestComposePixmap>(nullptr);
     } else if (dialog == "TestCompareIcons") {
         window = std::make_unique<TestCompareIcons>(nullptr);
@@ -253,9 +259,7 @@ void TestImageDialogs::composeConnections()
 
 void TestImageDialogs::composeCheckBoxes()
 {
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("sender name"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
+    expectComposeConnectWarnings();
     TestComposePixmap dialog(nullptr);
     auto* base = child<QLabel>(&dialog, "lblBaseImage");
     auto* result = child<QLabel>(&dialog, "lblResultImage");
@@ -296,9 +300,7 @@ void TestImageDialogs::composeOptionsAndTruncatedFactor()
     QFETCH(double, factor);
     QFETCH(int, kind);
     QFETCH(int, passed);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("sender name"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
+    expectComposeConnectWarnings();
     TestComposePixmap dialog(nullptr);
     const QPixmap in = *child<QLabel>(&dialog, "inPix")->pixmap();
     QCOMPARE(imageOf(child<QLabel>(&dialog, "outPix")), in.toImage().convertToFormat(QImage::Format_ARGB32));
@@ -316,9 +318,7 @@ void TestImageDialogs::composeOptionsAndTruncatedFactor()
 void TestImageDialogs::composeCorruptImageDisablesSave()
 {
     QTemporaryDir dir;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("No such slot"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("sender name"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
+    expectComposeConnectWarnings();
     ComposePixmapUnderTest dialog(nullptr);
     const QByteArray pngHead("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16);
     for (const QString& file : {writeFile(dir, "cut.png", pngHead), writeFile(dir, "bad.xpm", "/* XPM */ static"),
