@@ -49,6 +49,15 @@ private:
     QLineEdit* m_edit;
 };
 
+// A shown field holding 10 of 0 to 100, for dragging over.
+void showAtTen(VNDoubleSpinBox& field)
+{
+    field.setRange(0, 100);
+    field.setValue(10);
+    field.resize(160, 28);
+    field.show();
+}
+
 void typeAndConfirm(VNDoubleSpinBox* field, const QString& text)
 {
     editOf(field)->selectAll();
@@ -361,10 +370,7 @@ void TestVNDoubleSpinBox::factorScalesShownNumber()
 void TestVNDoubleSpinBox::virtualSliderDragChangesValue()
 {
     VNDoubleSpinBox field;
-    field.setRange(0, 100);
-    field.setValue(10);
-    field.resize(160, 28);
-    field.show();
+    showAtTen(field);
     QSignalSpy finished(&field, &QAbstractSpinBox::editingFinished);
     QSignalSpy changed(&field, QOverload<double>::of(&QDoubleSpinBox::valueChanged));
     MouseOnEdit mouse(&field);
@@ -388,10 +394,7 @@ void TestVNDoubleSpinBox::virtualSliderDragChangesValue()
 void TestVNDoubleSpinBox::virtualSliderModifiersAndLimits()
 {
     VNDoubleSpinBox field;
-    field.setRange(0, 100);
-    field.setValue(10);
-    field.resize(160, 28);
-    field.show();
+    showAtTen(field);
     MouseOnEdit mouse(&field);
     mouse.press(QPoint(40, 10));
     mouse.move(QPoint(80, 10), Qt::ShiftModifier);
@@ -404,9 +407,7 @@ void TestVNDoubleSpinBox::virtualSliderModifiersAndLimits()
 void TestVNDoubleSpinBox::clickWithoutDragLeavesValue()
 {
     VNDoubleSpinBox field;
-    field.setValue(10);
-    field.resize(160, 28);
-    field.show();
+    showAtTen(field);
     QSignalSpy finished(&field, &QAbstractSpinBox::editingFinished);
     MouseOnEdit mouse(&field);
     mouse.press(QPoint(40, 10));
@@ -422,9 +423,7 @@ void TestVNDoubleSpinBox::clickWithoutDragLeavesValue()
 void TestVNDoubleSpinBox::readOnlyFieldDoesNotSlide()
 {
     VNDoubleSpinBox field;
-    field.setValue(10);
-    field.resize(160, 28);
-    field.show();
+    showAtTen(field);
     QSignalSpy readOnlyChanged(&field, &VNDoubleSpinBox::readOnlyChanged);
     field.setReadOnly(true);
     QCOMPARE(readOnlyChanged.count(), 1);
