@@ -261,42 +261,21 @@ void DisclosureTest::dialogNames_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("className");
     QTest::addColumn<QString>("text");
-    QTest::newRow("d0") << "progressiveDisclosure0"
-                        << "VNProgressiveDisclosure"
-                        << "Settings";
-    QTest::newRow("d3") << "progressiveDisclosure3"
-                        << "VNProgressiveDisclosure"
-                        << "Options";
-    QTest::newRow("d1") << "progressiveDisclosure1"
-                        << "VNProgressiveDisclosure"
-                        << "Curves";
-    QTest::newRow("d2") << "progressiveDisclosure2"
-                        << "VNProgressiveDisclosure"
-                        << "Coordinate Systems";
-    QTest::newRow("resizeable") << "resizeableDisclosure"
-                                << "VNResizeableDisclosure"
-                                << "Additional Results";
-    QTest::newRow("optional") << "m_optionalCheck"
-                              << "QCheckBox"
-                              << "Show Optional Visibility Check";
-    QTest::newRow("enabled") << "m_enabled"
-                             << "QCheckBox"
-                             << "Widget Enabled";
-    QTest::newRow("single") << "m_groupSingleMode"
-                            << "QCheckBox"
-                            << "Single Mode (Exclusive Open)";
-    QTest::newRow("apply") << "m_applyBtn"
-                           << "QPushButton"
-                           << "Apply Changes";
-    QTest::newRow("container0") << "ProgressiveDisclosureContainer"
-                                << "QWidget"
-                                << "";
-    QTest::newRow("container4") << "ProgressiveDisclosureContainer_4"
-                                << "QWidget"
-                                << "";
-    QTest::newRow("resizeContainer") << "ResizeableDisclosureContainer"
-                                     << "QWidget"
-                                     << "";
+    const auto row = [](const char* tag, const char* name, const char* className, const char* text) {
+        QTest::newRow(tag) << name << className << text;
+    };
+    row("d0", "progressiveDisclosure0", "VNProgressiveDisclosure", "Settings");
+    row("d3", "progressiveDisclosure3", "VNProgressiveDisclosure", "Options");
+    row("d1", "progressiveDisclosure1", "VNProgressiveDisclosure", "Curves");
+    row("d2", "progressiveDisclosure2", "VNProgressiveDisclosure", "Coordinate Systems");
+    row("resizeable", "resizeableDisclosure", "VNResizeableDisclosure", "Additional Results");
+    row("optional", "m_optionalCheck", "QCheckBox", "Show Optional Visibility Check");
+    row("enabled", "m_enabled", "QCheckBox", "Widget Enabled");
+    row("single", "m_groupSingleMode", "QCheckBox", "Single Mode (Exclusive Open)");
+    row("apply", "m_applyBtn", "QPushButton", "Apply Changes");
+    row("container0", "ProgressiveDisclosureContainer", "QWidget", "");
+    row("container4", "ProgressiveDisclosureContainer_4", "QWidget", "");
+    row("resizeContainer", "ResizeableDisclosureContainer", "QWidget", "");
 }
 
 void DisclosureTest::dialogNames()
