@@ -69,22 +69,15 @@ void LayoutHelperTest::names_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
-    QTest::newRow("m_btn") << "m_btn"
-                           << "Button with long text";
-    QTest::newRow("m_restrikeDirections") << "m_restrikeDirections"
-                                          << "Profile Directions";
-    QTest::newRow("m_btn_2") << "m_btn_2"
-                             << "Button";
-    QTest::newRow("m_btn_4") << "m_btn_4"
-                             << "Button";
-    QTest::newRow("m_autoRound_2") << "m_autoRound_2"
-                                   << "Automatic ";
-    QTest::newRow("m_autoRound_4") << "m_autoRound_4"
-                                   << "Automatic ";
-    QTest::newRow("m_allFacesRB_2") << "m_allFacesRB_2"
-                                    << "Form Region";
-    QTest::newRow("m_selectedFacesRB_4") << "m_selectedFacesRB_4"
-                                         << "Selected";
+    const auto row = [](const char* name, const char* text) { QTest::newRow(name) << name << text; };
+    row("m_btn", "Button with long text");
+    row("m_restrikeDirections", "Profile Directions");
+    row("m_btn_2", "Button");
+    row("m_btn_4", "Button");
+    row("m_autoRound_2", "Automatic ");
+    row("m_autoRound_4", "Automatic ");
+    row("m_allFacesRB_2", "Form Region");
+    row("m_selectedFacesRB_4", "Selected");
 }
 
 void LayoutHelperTest::names()
