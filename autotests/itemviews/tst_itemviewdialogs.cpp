@@ -106,8 +106,7 @@ private slots:
     void tableSectionsNumberedAndCoded();
     void tableRemoveOnEmptyChangesNothing();
 
-    void treeViewNumbersFromRowCount();
-    void treeViewDropCopiesFirstText();
+    void treeViewNumbersAndDropCopiesFirstText();
 
     void dragAndDropNumberingAndPlacement();
 
@@ -320,27 +319,19 @@ void TestItemViewDialogs::tableRemoveOnEmptyChangesNothing()
     QCOMPARE(child<VNTableWidget>(&dialog, "m_vnTableWidget")->rowCount(), 0);
 }
 
-void TestItemViewDialogs::treeViewNumbersFromRowCount()
+void TestItemViewDialogs::treeViewNumbersAndDropCopiesFirstText()
 {
     TestVNTreeView dialog(nullptr);
     auto* add = child<QAbstractButton>(&dialog, "m_addItemButton");
     QTest::mousePress(add, Qt::LeftButton); // pressed, not clicked
     QTest::mouseRelease(add, Qt::LeftButton);
     QTest::mousePress(add, Qt::LeftButton);
-    QCOMPARE(dialog.sourceModel()->item(0)->text(), QStringLiteral("Item 0"));
-    QCOMPARE(dialog.sourceModel()->item(1)->text(), QStringLiteral("Item 1"));
-    auto* layout = child<QHBoxLayout>(&dialog, "m_horizontalLayout");
+    QStandardItemModel* source = dialog.sourceModel();
+    QCOMPARE(source->item(0)->text(), QStringLiteral("Item 0"));
+    QCOMPARE(source->item(1)->text(), QStringLiteral("Item 1"));
+    auto* layout = child<QHBoxLayout>(&dialog, "m_horizontalLayout"); // the source on the left
     QCOMPARE(layout->itemAt(0)->widget(), dialog.sourceView());
     QCOMPARE(layout->itemAt(1)->widget(), dialog.targetView());
-}
-
-void TestItemViewDialogs::treeViewDropCopiesFirstText()
-{
-    TestVNTreeView dialog(nullptr);
-    QTest::mousePress(child<QAbstractButton>(&dialog, "m_addItemButton"), Qt::LeftButton);
-    QTest::mouseRelease(child<QAbstractButton>(&dialog, "m_addItemButton"), Qt::LeftButton);
-    QTest::mousePress(child<QAbstractButton>(&dialog, "m_addItemButton"), Qt::LeftButton);
-    QStandardItemModel* source = dialog.sourceModel();
     QPixmap pixmap;
     std::unique_ptr<QMimeData> data(
         dialog.sourceView()->getDragAndDropManager()->prepareDrag({source->index(1, 0), source->index(0, 0)}, pixmap));
