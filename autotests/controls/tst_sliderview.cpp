@@ -53,7 +53,6 @@ private slots:
     void form_data();
     void form();
     void seededSigmaSlider();
-    void sigmaTabPaintsZones();
     void draggingAdmissibleRangeUpdatesSpinBoxes();
     void spinBoxesRebuildMarkings();
     void minimumDoesNotClampRecord();
@@ -170,24 +169,6 @@ void SliderViewTest::seededSigmaSlider()
     QCOMPARE(span->admissibleRange().minimum, 30);
     QCOMPARE(span->admissibleRange().maximum, 150);
     QCOMPARE(spin(&dialog, "m_markBest")->minimum(), -1);
-}
-
-void SliderViewTest::sigmaTabPaintsZones()
-{
-    TestVNSliderView dialog(nullptr);
-    child<QTabWidget>(&dialog, "verticalSliderWidget")->setCurrentIndex(1);
-    dialog.show();
-    VNSlider* sigma = slider(&dialog, "m_sigmaSlider");
-    QTRY_VERIFY(sigma->isVisible());
-    const QImage image = sigma->grab().toImage();
-    const int y = sigma->grooveRect().center().y();
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(12), y), QColor(0xd3, 0x2f, 0x2f));
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(50), y), QColor(0x2e, 0xa0, 0x43));
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(93), y), QColor(0xd3, 0x2f, 0x2f));
-    const int below = sigma->grooveRect().bottom() + 6;
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(5), below), QColor(0x40, 0x40, 0x40));
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(95), below), QColor(0x40, 0x40, 0x40));
-    QCOMPARE(image.pixelColor(sigma->pixelPosition(55), sigma->grooveRect().top() - 6), QColor(0x1f, 0x3a, 0x93));
 }
 
 void SliderViewTest::draggingAdmissibleRangeUpdatesSpinBoxes()
