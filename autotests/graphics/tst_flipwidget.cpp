@@ -40,14 +40,11 @@ void FlipWidgetTest::names_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("text");
-    QTest::newRow("label1") << "label1"
-                            << "Page1";
-    QTest::newRow("flip1") << "flip1"
-                           << "Flip";
-    QTest::newRow("label2") << "label2"
-                            << "Page2";
-    QTest::newRow("flip2") << "flip2"
-                           << "Flip";
+    const auto row = [](const char* name, const char* text) { QTest::newRow(name) << name << text; };
+    row("label1", "Page1");
+    row("flip1", "Flip");
+    row("label2", "Page2");
+    row("flip2", "Flip");
 }
 
 void FlipWidgetTest::names()
