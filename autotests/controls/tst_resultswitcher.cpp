@@ -56,15 +56,12 @@ void TestResultSwitcher::form_data()
     QTest::addColumn<QString>("switcher");
     QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("count");
-    QTest::newRow("single") << "m_resultSwitcherSingle"
-                            << "m_countSingle"
-                            << "1";
-    QTest::newRow("menus") << "m_resultSwitcher"
-                           << "m_count"
-                           << "4";
-    QTest::newRow("multi") << "m_resultSwitcherMulti"
-                           << "m_countMulti"
-                           << "10";
+    const auto row = [](const char* tag, const char* switcher, const char* label, const char* count) {
+        QTest::newRow(tag) << switcher << label << count;
+    };
+    row("single", "m_resultSwitcherSingle", "m_countSingle", "1");
+    row("menus", "m_resultSwitcher", "m_count", "4");
+    row("multi", "m_resultSwitcherMulti", "m_countMulti", "10");
 }
 
 void TestResultSwitcher::form()
