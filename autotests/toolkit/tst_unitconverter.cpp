@@ -71,20 +71,17 @@ void TestUnitConverter::convert_data()
     QTest::addColumn<double>("expected");
 
     // Spellings and quantities; the factors themselves are in referenceValues.
-    QTest::newRow("mm to inch") << 25.4 << "mm"
-                                << "in" << true << 1.0;
-    QTest::newRow("N/mm2 is MPa") << 2.0 << "N/mm\u00b2"
-                                  << "MPa" << true << 2.0;
-    QTest::newRow("boiling point") << 373.15 << "K"
-                                   << "degC" << true << 100.0;
-    QTest::newRow("length and angle") << 3.0 << "mm"
-                                      << "deg" << false << 3.0;
-    QTest::newRow("force and pressure") << 3.0 << "N"
-                                        << "MPa" << false << 3.0;
-    QTest::newRow("plain number and length") << 3.0 << ""
-                                             << "mm" << false << 3.0;
-    QTest::newRow("unknown text") << 3.0 << "px"
-                                  << "px" << false << 3.0;
+    const auto row = [](const char* tag, double value, const char* from, const char* to, bool convertable,
+                        double expected) {
+        QTest::newRow(tag) << value << QString::fromUtf8(from) << QString::fromUtf8(to) << convertable << expected;
+    };
+    row("mm to inch", 25.4, "mm", "in", true, 1.0);
+    row("N/mm2 is MPa", 2.0, "N/mm\u00b2", "MPa", true, 2.0);
+    row("boiling point", 373.15, "K", "degC", true, 100.0);
+    row("length and angle", 3.0, "mm", "deg", false, 3.0);
+    row("force and pressure", 3.0, "N", "MPa", false, 3.0);
+    row("plain number and length", 3.0, "", "mm", false, 3.0);
+    row("unknown text", 3.0, "px", "px", false, 3.0);
 }
 
 void TestUnitConverter::convert()
