@@ -16,7 +16,8 @@ struct Entry
 {
     const char* name;
     const char* text;
-    const char* opens; // the class of the window the button opens; empty while it opens none yet
+    const char* opens; // the class of the window the button opens, "+" first when every click makes a new one;
+                       // empty while it opens none yet
 };
 
 // What robots and users rely on: every button's name and text, and the window behind it.
@@ -24,41 +25,41 @@ const Entry entries[] = {
     {"showStyleSheet", "Show StyleSheet", "DebugStyleSheet"},
     {"stateDebug", "State Debug", "DebugStateInfo"},
     {"m_visualizePointsControl", "PointsControl", "TestVisualizePointsControl"},
-    {"testMasterDetailTree", "Master Detail Tree", ""},
+    {"testMasterDetailTree", "Master Detail Tree", "TestMasterDetailTree"},
     {"testPathShortener", "PathShortener", "TestStringReducer"},
     {"testComboBox", "ComboBox", "TestComboBox"},
     {"testValueFields", "ValueFields", "TestValueFields"},
-    {"testComposePixmap", "Compose Pixmap", ""},
-    {"testFlipWidget", "FlipWidget", ""},
+    {"testComposePixmap", "Compose Pixmap", "TestComposePixmap"},
+    {"testFlipWidget", "FlipWidget", "TestFlipWidget"},
     {"testColorDisplay", "Color Display", "TestColorDisplay"},
     {"m_testRegExp", "Reg Exp", "TestRegExp"},
     {"m_testTreeDelegates", "Tree Delegates", ""},
-    {"m_testTreeItemDelegate", "Tree Item Delegate", ""},
-    {"m_testLayouts", "Layout && SizeHint", ""},
+    {"m_testTreeItemDelegate", "Tree Item Delegate", "TestTreeItemDelegate"},
+    {"m_testLayouts", "Layout && SizeHint", "TestLayoutExample"},
     {"m_testAlignment", "TestAlignment", "TestAlignment"},
     {"m_QtTraining", "Qt Training", "QtTraining"},
-    {"m_testSVG", "Test SVG", ""},
-    {"m_testLayoutHelper", "VNLayoutHelper", ""},
-    {"m_testDendrogramWidget", "DendrogramTest", ""},
-    {"m_compareIcons", "Compare PNG and SVG Icons", ""},
+    {"m_testSVG", "Test SVG", "TestSVG"},
+    {"m_testLayoutHelper", "VNLayoutHelper", "TestLayoutHelper"},
+    {"m_testDendrogramWidget", "DendrogramTest", "TestDendrogramWidget"},
+    {"m_compareIcons", "Compare PNG and SVG Icons", "TestCompareIcons"},
     {"m_testSquish", "Squish", ""},
-    {"m_testAnimatedTabBar", "Animated Tab Bar (QML)", ""},
-    {"m_testNewAssemblyImport", "VNTreeView for Assembly Import Test", ""},
-    {"testDisclosure", "VNProgressiveDisclosure", ""},
+    {"m_testAnimatedTabBar", "Animated Tab Bar (QML)", "TestVNAnimatedTabBar"},
+    {"m_testNewAssemblyImport", "VNTreeView for Assembly Import Test", "TestNewAssemblyImport"},
+    {"testDisclosure", "VNProgressiveDisclosure", "TestDisclosure"},
     {"testVnSlider", "VNSlider", "TestVNSliderView"},
-    {"testVNAdvancedMenu", "VNAdvancedMenu", ""},
+    {"testVNAdvancedMenu", "VNAdvancedMenu", "TestAdvancedMenu"},
     {"testCurveInputControl", "VNCurveInputControl", "TestCurveInputControl"},
-    {"testInfoArea", "Test InfoArea", ""},
-    {"testVNModuleNavigation", "VNModuleNavigation", ""},
-    {"testTableWidget", "VNTableWidget/View", ""},
-    {"testTreeWidget", "Tree Widget/View", ""},
-    {"m_joinsTestTable", "Joins Table", ""},
-    {"m_vnResultSwitcher", "VNResultSwitcher", ""},
-    {"m_testVNTreeView", "VNTreeView", ""},
+    {"testInfoArea", "Test InfoArea", "TestInfoArea"},
+    {"testVNModuleNavigation", "VNModuleNavigation", "TestModuleNavigation"},
+    {"testTableWidget", "VNTableWidget/View", "TestVNTableWidget"},
+    {"testTreeWidget", "Tree Widget/View", "TestTreeWidget"},
+    {"m_joinsTestTable", "Joins Table", "TestJoinsTable"},
+    {"m_vnResultSwitcher", "VNResultSwitcher", "+TestVNResultSwitcher"},
+    {"m_testVNTreeView", "VNTreeView", "TestVNTreeView"},
     {"m_testVirtualSlider", "VirtualSlider", "TestVirtualSlider"},
-    {"m_testDragAndDrop", "Drag && Drop", ""},
-    {"m_progressTest", "ProgressSimu", ""},
-    {"m_converterTest", "ConverterUtility", ""},
+    {"m_testDragAndDrop", "Drag && Drop", "TestDragAndDrop"},
+    {"m_progressTest", "ProgressSimu", "TestProgressComposition"},
+    {"m_converterTest", "ConverterUtility", "+Varnis::FileConverterDialog"},
     {"m_testVNMessageBox", "VNMessageBox", "TestVNMessageBox"},
 };
 
@@ -120,13 +121,19 @@ void LauncherPanelTest::buttons()
     QCOMPARE(launch->text(), text);
     if (opens.isEmpty())
         return;
-    const QByteArray className = opens.toLatin1();
+    const bool newPerClick = opens.startsWith(QLatin1Char('+'));
+    const QByteArray className = opens.mid(newPerClick ? 1 : 0).toLatin1();
     launch->click();
     QCOMPARE(windows(&panel, className).size(), 1);
     QWidget* window = windows(&panel, className).first();
     QVERIFY(window->isVisible());
     window->close();
     launch->click();
+    if (newPerClick) {
+        QCOMPARE(windows(&panel, className).size(), 2);
+        QVERIFY(windows(&panel, className).last()->isVisible());
+        return;
+    }
     QCOMPARE(windows(&panel, className), QList<QWidget*>({window}));
     QVERIFY(window->isVisible());
 }
