@@ -1,15 +1,22 @@
+#include <VNActionsBar.h>
 #include <VNClearLineEdit.h>
+#include <VNCustomMenuButton.h>
 #include <VNElementNavigationBar.h>
 #include <VNElidedLabel.h>
+#include <VNFileMenuButton.h>
+#include <VNFilterListView.h>
 #include <VNSlidingCheckBox.h>
 #include <VNStyleSheet.h>
 #include <VNTabWidget.h>
 #include <VNTaskBar.h>
+#include <VNToolTipButton.h>
 #include <VNTwinPushButton.h>
 #include <VNViewSwitcher.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QMenu>
+#include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -82,7 +89,9 @@ QImage grabWithStatus(QWidget* widget, int word)
 }
 } // namespace
 
+using ToolTipSetup = std::function<void(VNToolTipButton&)>;
 Q_DECLARE_METATYPE(Factory)
+Q_DECLARE_METATYPE(ToolTipSetup)
 
 class GalleryWidgetsTest : public QObject
 {
@@ -100,6 +109,14 @@ private slots:
     void clearLineEditClears();
     void elidedLabelShortens_data();
     void elidedLabelShortens();
+    void toolTipButtonVariants_data();
+    void toolTipButtonVariants();
+    void actionsBarRows_data();
+    void actionsBarRows();
+    void customMenuButtonOwnsWidget();
+    void fileMenuButtonRecentFiles();
+    void filterListViewFilters_data();
+    void filterListViewFilters();
 };
 
 void GalleryWidgetsTest::initTestCase()
@@ -259,6 +276,127 @@ void GalleryWidgetsTest::elidedLabelShortens()
     QVERIFY2(shown.startsWith(expectedStart) && shown.endsWith(expectedEnd), qPrintable(shown));
     QCOMPARE(label.isElided(), width < 900);
     QVERIFY(label.fontMetrics().horizontalAdvance(shown) <= width);
+}
+
+void GalleryWidgetsTest::toolTipButtonVariants_data()
+{
+    using Setup = ToolTipSetup;
+    QTest::addColumn<Setup>("setup");
+    QTest::addColumn<QColor>("centreHue"); // the disc colour, sampled just above the mark
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("help") << Setup([](VNToolTipButton&) {}) << QColor(0x7a, 0x85, 0x91) << QSize(18, 18);
+    QTest::newRow("info") << Setup([](VNToolTipButton& b) { b.setUseAsInfo(true); }) << QColor(0x7a, 0x85, 0x91)
+                          << QSize(18, 18);
+    QTest::newRow("warning") << Setup([](VNToolTipButton& b) { b.setUseAsWarning(true); }) << QColor(0xe0, 0x9a, 0x00)
+                             << QSize(18, 18);
+    QTest::newRow("header") << Setup([](VNToolTipButton& b) { b.setUseAsHeader(true); }) << QColor(0x1f, 0x3a, 0x56)
+                            << QSize(22, 22);
+    QTest::newRow("custom image") << Setup([](VNToolTipButton& b) {
+        QPixmap green(48, 48);
+        green.fill(Qt::green);
+        b.setCustomImage(QIcon(green), QSize(48, 48));
+    }) << QColor(Qt::green) << QSize(52, 52);
+}
+
+void GalleryWidgetsTest::toolTipButtonVariants()
+{
+    using Setup = ToolTipSetup;
+    QFETCH(Setup, setup);
+    QFETCH(QColor, centreHue);
+    QFETCH(QSize, size);
+    VNToolTipButton button;
+    setup(button);
+    QCOMPARE(button.sizeHint(), size);
+    button.resize(size);
+    const QImage image = button.grab().toImage();
+    QCOMPARE(image.pixelColor(size.width() / 2, 3), centreHue);
+}
+
+void GalleryWidgetsTest::actionsBarRows_data()
+{
+    QTest::addColumn<int>("perRow");
+    QTest::addColumn<int>("rows");
+    QTest::newRow("one per row") << 1 << 3;
+    QTest::newRow("two per row") << 2 << 2;
+    QTest::newRow("all in one row") << 0 << 1;
+}
+
+void GalleryWidgetsTest::actionsBarRows()
+{
+    QFETCH(int, perRow);
+    QFETCH(int, rows);
+    VNActionsBar bar;
+    bar.setActionsPerRow(perRow);
+    QList<QAction*> actions;
+    for (const char* text : {"Input...", "Check", "Export"}) {
+        actions << new QAction(QString::fromLatin1(text), &bar);
+        bar.addAction(actions.last());
+    }
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    QSet<int> tops;
+    for (QAction* action : actions)
+        tops << bar.buttonFor(action)->geometry().top();
+    QCOMPARE(tops.size(), rows);
+    QCOMPARE(bar.buttonFor(actions.first())->text(), QStringLiteral("Input..."));
+    actions.at(1)->setEnabled(false);
+    QVERIFY(!bar.buttonFor(actions.at(1))->isEnabled());
+    bar.removeAction(actions.at(2));
+    QVERIFY(!bar.buttonFor(actions.at(2)));
+}
+
+void GalleryWidgetsTest::customMenuButtonOwnsWidget()
+{
+    VNCustomMenuButton button;
+    QPointer<VNFilterListView> first = new VNFilterListView;
+    button.setMenuWidget(first);
+    QCOMPARE(button.menuWidget(), first.data());
+    QVERIFY(button.menu());
+    button.setMenuWidget(new QWidget);
+    QVERIFY(first.isNull()); // the replaced widget is deleted with its drop-down
+    button.setMenuWidget(nullptr);
+    QVERIFY(!button.menu());
+}
+
+void GalleryWidgetsTest::fileMenuButtonRecentFiles()
+{
+    VNFileMenuButton button;
+    QVERIFY(!button.recentMenu()->isEnabled());
+    button.addRecentFile(QStringLiteral("/data/a.xml"));
+    button.addRecentFile(QStringLiteral("/data/b.xml"));
+    button.addRecentFile(QStringLiteral("/data//a.xml"));
+    QCOMPARE(button.recentFiles(), QStringList({"/data/a.xml", "/data/b.xml"}));
+    QVERIFY(button.recentMenu()->isEnabled());
+    QCOMPARE(button.recentMenu()->actions().at(1)->text(), QStringLiteral("b.xml"));
+    QSignalSpy recent(&button, &VNFileMenuButton::recentFileRequested);
+    QSignalSpy open(&button, &VNFileMenuButton::openRequested);
+    button.recentMenu()->actions().at(1)->trigger();
+    QCOMPARE(recent.value(0).value(0).toString(), QStringLiteral("/data/b.xml"));
+    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(5, 5));
+    QCOMPARE(open.size(), 1);
+}
+
+void GalleryWidgetsTest::filterListViewFilters_data()
+{
+    QTest::addColumn<QString>("filter");
+    QTest::addColumn<QStringList>("visible");
+    QTest::newRow("none") << "" << QStringList({"Hallo", "Kuchen", "Halter"});
+    QTest::newRow("prefix") << "hal" << QStringList({"Hallo", "Halter"});
+    QTest::newRow("inside") << "CHE" << QStringList({"Kuchen"});
+    QTest::newRow("nothing") << "xyz" << QStringList();
+}
+
+void GalleryWidgetsTest::filterListViewFilters()
+{
+    QFETCH(QString, filter);
+    QFETCH(QStringList, visible);
+    VNFilterListView view;
+    view.setItems({"Hallo", "Kuchen"});
+    view.addItem(QStringLiteral("Halter"));
+    QTest::keyClicks(view.filterEdit(), filter);
+    QCOMPARE(view.visibleItems(), visible);
+    view.setWidgetStatus(VNWidgetStatus::needInput);
+    QCOMPARE(view.filterEdit()->getWidgetStatus(), VNWidgetStatus::StatusFlags(VNWidgetStatus::needInput));
 }
 
 QTEST_MAIN(GalleryWidgetsTest)
