@@ -5,6 +5,7 @@
 #include <VNElidedLabel.h>
 #include <VNFileMenuButton.h>
 #include <VNFilterListView.h>
+#include <VNListToolBar.h>
 #include <VNSlidingCheckBox.h>
 #include <VNStyleSheet.h>
 #include <VNTabWidget.h>
@@ -117,6 +118,8 @@ private slots:
     void fileMenuButtonRecentFiles();
     void filterListViewFilters_data();
     void filterListViewFilters();
+    void listToolBarVariants_data();
+    void listToolBarVariants();
 };
 
 void GalleryWidgetsTest::initTestCase()
@@ -397,6 +400,33 @@ void GalleryWidgetsTest::filterListViewFilters()
     QCOMPARE(view.visibleItems(), visible);
     view.setWidgetStatus(VNWidgetStatus::needInput);
     QCOMPARE(view.filterEdit()->getWidgetStatus(), VNWidgetStatus::StatusFlags(VNWidgetStatus::needInput));
+}
+
+void GalleryWidgetsTest::listToolBarVariants_data()
+{
+    QTest::addColumn<VNListToolBar::Attachment>("attachment");
+    QTest::addColumn<bool>("lineOnTop");
+    QTest::addColumn<bool>("lineAtBottom");
+    QTest::addColumn<bool>("lineOnLeft");
+    QTest::newRow("below a list") << VNListToolBar::AttachedBelow << true << false << false;
+    QTest::newRow("above a list") << VNListToolBar::AttachedAbove << false << true << false;
+    QTest::newRow("standalone") << VNListToolBar::Standalone << true << true << true;
+}
+
+void GalleryWidgetsTest::listToolBarVariants()
+{
+    QFETCH(VNListToolBar::Attachment, attachment);
+    QFETCH(bool, lineOnTop);
+    QFETCH(bool, lineAtBottom);
+    QFETCH(bool, lineOnLeft);
+    VNListToolBar bar;
+    bar.setAttachment(attachment);
+    bar.resize(120, 24);
+    const QImage image = bar.grab().toImage();
+    const QColor line(0xc9, 0xd0, 0xd8);
+    QCOMPARE(image.pixelColor(60, 0) == line, lineOnTop);
+    QCOMPARE(image.pixelColor(60, 23) == line, lineAtBottom);
+    QCOMPARE(image.pixelColor(0, 12) == line, lineOnLeft);
 }
 
 QTEST_MAIN(GalleryWidgetsTest)
