@@ -6,6 +6,7 @@
 #include <VNFileMenuButton.h>
 #include <VNFilterListView.h>
 #include <VNListToolBar.h>
+#include <VNListWidget.h>
 #include <VNSlidingCheckBox.h>
 #include <VNStyleSheet.h>
 #include <VNTabWidget.h>
@@ -83,6 +84,13 @@ QWidget* actionButton(QAction* action, QWidget* edit)
     return nullptr;
 }
 
+QWidget* listWidget()
+{
+    auto* list = new VNListWidget;
+    list->addItems({QStringLiteral("Hallo"), QStringLiteral("Kuchen")});
+    return list;
+}
+
 QImage grabWithStatus(QWidget* widget, int word)
 {
     dynamic_cast<VNWidgetInterface*>(widget)->setWidgetStatus(VNWidgetStatus::StatusFlags(word));
@@ -132,8 +140,9 @@ void GalleryWidgetsTest::statusChangesLook_data()
     QTest::addColumn<Factory>("factory");
     QTest::addColumn<int>("word");
     const QList<QPair<const char*, Factory>> families = {
-        {"VNTaskBar", taskBar},     {"VNElementNavigationBar", navigationBar}, {"VNViewSwitcher", viewSwitcher},
-        {"VNTabWidget", tabWidget}, {"VNTwinPushButton", twinButton},          {"VNSlidingCheckBox", slidingCheckBox},
+        {"VNTaskBar", taskBar},       {"VNElementNavigationBar", navigationBar}, {"VNViewSwitcher", viewSwitcher},
+        {"VNTabWidget", tabWidget},   {"VNTwinPushButton", twinButton},          {"VNSlidingCheckBox", slidingCheckBox},
+        {"VNListWidget", listWidget},
     };
     const QList<QPair<const char*, int>> words = {
         {"Need Input", 0x20}, {"Sigma Active", 0x140}, {"Standard Locked", 0x23000}, {"Compare Differs", 0x800}};
