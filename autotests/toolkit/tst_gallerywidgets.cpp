@@ -178,6 +178,16 @@ void GalleryWidgetsTest::viewSwitcherSwitches()
     QCOMPARE(spy.last().at(0).toInt(), 1);
     QVERIFY(!switcher.viewButton(0)->isChecked());
     QCOMPARE(switcher.viewText(1), QStringLiteral("Original"));
+
+    // A second group switches on its own.
+    switcher.addView(QStringLiteral("Forces"), 1);
+    switcher.addView(QStringLiteral("Distances"), 1);
+    QCOMPARE(switcher.currentIndex(1), 2);
+    QTest::mouseClick(switcher.viewButton(3), Qt::LeftButton);
+    QCOMPARE(switcher.currentIndex(1), 3);
+    QCOMPARE(switcher.currentIndex(0), 1);
+    QCOMPARE(spy.last().at(0).toInt(), 3);
+    QCOMPARE(switcher.groupOf(3), 1);
 }
 
 void GalleryWidgetsTest::taskBarStagesAreExclusive()
