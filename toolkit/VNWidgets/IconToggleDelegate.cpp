@@ -1,6 +1,7 @@
 #include "IconToggleDelegate.h"
 
 #include "VNItemDataRoles.h"
+#include "VNItemDelegate.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -53,7 +54,9 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     opt.features &= ~QStyleOptionViewItem::HasCheckIndicator;
     opt.icon = QIcon();
     const QStyle* style = opt.widget ? opt.widget->style() : QApplication::style();
+    VNItemDelegate::paintCellBackground(painter, option.rect, index);
     style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, opt.widget);
+    VNItemDelegate::paintStatusMarks(painter, option.rect, index.data(VNItemDataRoles::StatusRole).toInt());
 
     const bool on = isOn(index);
     const QVariant mirrored = index.data(Qt::EditRole);
