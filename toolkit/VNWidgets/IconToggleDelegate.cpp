@@ -69,7 +69,8 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
 // Painting must not change the model, so the mirror is written once control is back in the event
 // loop. The whole column under the same parent is brought in step at once, so that rows scrolled
-// out of sight read right too; indexes are kept persistent in case rows move meanwhile.
+// out of sight read right too (cells without a check state are left alone); indexes are kept persistent in case rows
+// move meanwhile.
 void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) const
 {
     Q_UNUSED(on)
@@ -85,6 +86,9 @@ void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) con
             const int rows = guard->rowCount(parent);
             for (int row = 0; row < rows; ++row) {
                 const QModelIndex cell = guard->index(row, column, parent);
+                // Cells without a check state are no toggles (rows drawn by other delegates).
+                if (!cell.data(Qt::CheckStateRole).isValid())
+                    continue;
                 const QVariant mirrored = cell.data(Qt::EditRole);
                 const bool cellOn = isOn(cell);
                 if (mirrored.type() != QVariant::Bool || mirrored.toBool() != cellOn)

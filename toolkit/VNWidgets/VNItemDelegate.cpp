@@ -376,7 +376,9 @@ void VNItemDelegate::setEditorData(QWidget* editor, const QModelIndex& index) co
     }
     spinBox->setDecimals(number.decimals);
     spinBox->setRange(number.minimum, number.maximum);
-    spinBox->setSuffix(number.unit.isEmpty() ? QString() : QLatin1Char(' ') + number.unit);
+    // The field knows the unit, so that typed values in other units are converted.
+    spinBox->setValueUnit(number.unit);
+    spinBox->setDisplayUnit(number.unit, true);
     spinBox->setValue(number.value);
 }
 
@@ -387,7 +389,6 @@ void VNItemDelegate::setModelData(QWidget* editor, QAbstractItemModel* model, co
         QStyledItemDelegate::setModelData(editor, model, index);
         return;
     }
-    spinBox->interpretText();
     const QVariant data = index.data(Qt::EditRole);
     if (data.userType() == qMetaTypeId<VNDoubleSpinBoxData>()) {
         auto number = data.value<VNDoubleSpinBoxData>();

@@ -37,7 +37,7 @@ QRect VNMenuButtonDelegate::buttonRect(const QRect& cellRect, const QModelIndex&
 void VNMenuButtonDelegate::initButtonOption(QStyleOptionButton* button, const QModelIndex& index, int which) const
 {
     if (which == 1) {
-        button->features |= QStyleOptionButton::HasMenu;
+        button->text = QString(QChar(0x25be)); // the down arrow of a menu button
         return;
     }
     const VNMenuButtonDelegateData* data = delegateData(index);
