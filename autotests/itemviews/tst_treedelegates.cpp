@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPointer>
@@ -261,6 +262,31 @@ private slots:
         QVERIFY(cellContains(m_tree, shownCell(m_tree, buttons, 1), qRgb(0xd3, 0x2f, 0x2f)));
     }
 
+    // Each status bit leaves its own mark in the cell's top right corner, on its own.
+    void everyStatusBitIsMarked_data()
+    {
+        QTest::addColumn<int>("bits");
+        QTest::addColumn<QRgb>("colour");
+        QTest::newRow("user edited") << 0x2 << qRgb(0x3d, 0x7c, 0xc9);
+        QTest::newRow("need input") << 0x20 << qRgb(0xd3, 0x2f, 0x2f);
+        QTest::newRow("different") << 0x400 << qRgb(0xc9, 0xa4, 0x00);
+        QTest::newRow("compare differs") << 0x800 << qRgb(0xc0, 0x1c, 0xa8);
+        QTest::newRow("standard enabled") << 0x3000 << qRgb(0x4c, 0x9a, 0x4c);
+        QTest::newRow("deviate") << 0x10000 << qRgb(0xe0, 0x7b, 0x00);
+        QTest::newRow("locked") << 0x20000 << qRgb(0x55, 0x55, 0x55);
+    }
+    void everyStatusBitIsMarked()
+    {
+        QFETCH(int, bits);
+        QFETCH(QRgb, colour);
+        const int row = rowOf(m_tree, QStringLiteral("VNItemDelegate"));
+        const QRect cell = shownCell(m_tree, row, 2);
+        const QRect corner(cell.right() - 5, cell.top(), 6, 6);
+        QVERIFY(!cellContains(m_tree, corner, colour));
+        m_tree->topLevelItem(row)->setData(2, statusRole, bits);
+        QVERIFY(cellContains(m_tree, corner, colour));
+    }
+
     void sigmaClickShowsMessage()
     {
         child<QCheckBox>(m_dialog, QStringLiteral("m_sigmaAvailable"))->setChecked(true);
@@ -325,6 +351,44 @@ private slots:
         QScopedPointer<QMenu> menu(delegate->createMenu(m_tree->model()->index(row, 1), nullptr));
         QCOMPARE(menu->actions().size(), 3);
         QVERIFY(!menu->actions().at(1)->isEnabled()); // "Copy From..."
+    }
+
+    void comboCellEditsWithItsEntries()
+    {
+        const int row = rowOf(m_tree, QStringLiteral("VNComboBoxDelegate from Model"));
+        const QModelIndex cell = m_tree->model()->index(row, 1);
+        m_tree->scrollTo(cell);
+        m_tree->edit(cell);
+        auto* editor = m_tree->viewport()->findChild<QComboBox*>();
+        QVERIFY(editor);
+        QCOMPARE(editor->count(), 6);
+        QCOMPARE(editor->currentText(), QStringLiteral("Item 6"));
+        QVERIFY(!editor->itemIcon(0).isNull());
+        editor->setCurrentIndex(1);
+        emit editor->activated(1);
+        QTRY_COMPARE(cell.data().toString(), QStringLiteral("Item 2"));
+    }
+
+    void captionsAndDisabledCellsOpenNoEditor()
+    {
+        const QModelIndex caption = m_tree->model()->index(0, 0);
+        m_tree->edit(caption);
+        QVERIFY(!m_tree->indexWidget(caption) && !m_tree->viewport()->findChild<QLineEdit*>());
+        child<QCheckBox>(m_dialog, QStringLiteral("disableItems"))->setChecked(true);
+        const QModelIndex value = m_tree->model()->index(rowOf(m_tree, QStringLiteral("VNItemDelegate")), 1);
+        m_tree->edit(value);
+        QVERIFY(!m_tree->viewport()->findChild<QLineEdit*>());
+        // A disabled button cell ignores clicks.
+        const int row = rowOf(m_tree, QStringLiteral("VNIncludeExcludeButtonDelegate"));
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, shownCell(m_tree, row, 1).center());
+        QCOMPARE(m_tree->model()->index(row, 1).data(Qt::EditRole), QVariant(true));
+    }
+
+    void includeExcludeClickFlips()
+    {
+        const int row = rowOf(m_tree, QStringLiteral("VNIncludeExcludeButtonDelegate"));
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, shownCell(m_tree, row, 1).center());
+        QCOMPARE(m_tree->model()->index(row, 1).data(Qt::EditRole), QVariant(false));
     }
 
     void valueCellEditsWithUnit()
