@@ -7,6 +7,8 @@
 #include <VNMenuButtonDelegate.h>
 #include <VNMultiPushButtonDelegate.h>
 #include <VNPushButtonDelegate.h>
+#include <VNToolTipButtonDelegate.h>
+#include <VNTwinPushButtonDelegate.h>
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -382,6 +384,31 @@ private slots:
         const int row = rowOf(m_tree, QStringLiteral("VNIncludeExcludeButtonDelegate"));
         QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, shownCell(m_tree, row, 1).center());
         QCOMPARE(m_tree->model()->index(row, 1).data(Qt::EditRole), QVariant(true));
+    }
+
+    void toolTipAndTwinButtonsClick()
+    {
+        const int tips = rowOf(m_tree, QStringLiteral("VNToolTipButtonDelegate"));
+        auto* tipDelegate = qobject_cast<VNToolTipButtonDelegate*>(m_dialog->delegateForRow(tips));
+        QVERIFY(tipDelegate);
+        QSignalSpy shown(tipDelegate, &VNToolTipButtonDelegate::toolTipShown);
+        const QModelIndex tipCell = m_tree->model()->index(tips, 2);
+        QRect rect = shownCell(m_tree, tips, 2);
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, rect.center()); // beside the button
+        QCOMPARE(shown.count(), 0);
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, tipDelegate->buttonRect(rect, tipCell, 0).center());
+        QCOMPARE(shown.count(), 1);
+        QCOMPARE(shown.at(0).at(1).toString(), QStringLiteral("This is the tooltip given by Qt::ToolTipRole"));
+
+        const int twins = rowOf(m_tree, QStringLiteral("VNTwinPushButtonDelegate"));
+        auto* twinDelegate = qobject_cast<VNTwinPushButtonDelegate*>(m_dialog->delegateForRow(twins));
+        QVERIFY(twinDelegate);
+        QSignalSpy clicked(twinDelegate, &VNButtonCellDelegate::clicked);
+        const QModelIndex twinCell = m_tree->model()->index(twins, 1);
+        rect = shownCell(m_tree, twins, 1);
+        QTest::mouseClick(m_tree->viewport(), Qt::LeftButton, {}, twinDelegate->buttonRect(rect, twinCell, 1).center());
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(clicked.at(0).at(1).toInt(), 1);
     }
 
     void includeExcludeClickFlips()
