@@ -25,6 +25,7 @@
 #include "TestRegExp.h"
 #include "TestSVG.h"
 #include "TestStringReducer.h"
+#include "TestTreeDelegates.h"
 #include "TestTreeItemDelegate.h"
 #include "TestTreeWidget.h"
 #include "TestVNAnimatedTabBar.h"
@@ -202,7 +203,10 @@ void TestWidgetCollection::on_m_testRegExp_clicked()
     showCached(m_testRegExp, this);
 }
 
-void TestWidgetCollection::on_m_testTreeDelegates_clicked() {}
+void TestWidgetCollection::on_m_testTreeDelegates_clicked()
+{
+    showCached(m_testTreeDelegates, this);
+}
 
 void TestWidgetCollection::on_m_testTreeItemDelegate_clicked()
 {

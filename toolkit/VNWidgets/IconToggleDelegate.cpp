@@ -1,6 +1,7 @@
 #include "IconToggleDelegate.h"
 
 #include "VNItemDataRoles.h"
+#include "VNItemDelegate.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -53,7 +54,9 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     opt.features &= ~QStyleOptionViewItem::HasCheckIndicator;
     opt.icon = QIcon();
     const QStyle* style = opt.widget ? opt.widget->style() : QApplication::style();
+    VNItemDelegate::paintCellBackground(painter, option.rect, index);
     style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, opt.widget);
+    VNItemDelegate::paintStatusMarks(painter, option.rect, index.data(VNItemDataRoles::StatusRole).toInt());
 
     const bool on = isOn(index);
     const QVariant mirrored = index.data(Qt::EditRole);
@@ -66,7 +69,8 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
 // Painting must not change the model, so the mirror is written once control is back in the event
 // loop. The whole column under the same parent is brought in step at once, so that rows scrolled
-// out of sight read right too; indexes are kept persistent in case rows move meanwhile.
+// out of sight read right too (cells without a check state are left alone); indexes are kept persistent in case rows
+// move meanwhile.
 void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) const
 {
     Q_UNUSED(on)
@@ -82,6 +86,9 @@ void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) con
             const int rows = guard->rowCount(parent);
             for (int row = 0; row < rows; ++row) {
                 const QModelIndex cell = guard->index(row, column, parent);
+                // Cells without a check state are no toggles (rows drawn by other delegates).
+                if (!cell.data(Qt::CheckStateRole).isValid())
+                    continue;
                 const QVariant mirrored = cell.data(Qt::EditRole);
                 const bool cellOn = isOn(cell);
                 if (mirrored.type() != QVariant::Bool || mirrored.toBool() != cellOn)

@@ -1,6 +1,6 @@
 #include "VNComboBox.h"
 
-#include "VNComboBoxDelegate_p.h"
+#include "VNComboBoxPopupDelegate_p.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
@@ -11,17 +11,17 @@ namespace {
 const int statusBarWidth = 4;
 }
 
-VNComboBoxDelegate::VNComboBoxDelegate(VNComboBox* combo)
+VNComboBoxPopupDelegate::VNComboBoxPopupDelegate(VNComboBox* combo)
     : QStyledItemDelegate(combo)
     , m_combo(combo)
 {}
 
-bool VNComboBoxDelegate::isSeparator(const QModelIndex& index)
+bool VNComboBoxPopupDelegate::isSeparator(const QModelIndex& index)
 {
     return index.data(Qt::AccessibleDescriptionRole).toString() == QLatin1String("separator");
 }
 
-void VNComboBoxDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+void VNComboBoxPopupDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
     if (m_combo->comboBoxStyle() == VNComboBox::TextOnly) {
@@ -33,7 +33,8 @@ void VNComboBoxDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     }
 }
 
-void VNComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+void VNComboBoxPopupDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                                    const QModelIndex& index) const
 {
     if (isSeparator(index)) {
         const int y = option.rect.center().y();
@@ -51,7 +52,7 @@ void VNComboBoxDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             QRect(option.rect.left() + 1, option.rect.top() + 2, statusBarWidth, option.rect.height() - 4), color);
 }
 
-QSize VNComboBoxDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+QSize VNComboBoxPopupDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     if (isSeparator(index))
         return QSize(10, 7);
@@ -64,7 +65,7 @@ VNComboBox::VNComboBox(QWidget* parent)
     : QComboBox(parent)
     , VNWidgetInterface(this)
 {
-    setItemDelegate(new VNComboBoxDelegate(this));
+    setItemDelegate(new VNComboBoxPopupDelegate(this));
 }
 
 void VNComboBox::setComboBoxStyle(ComboStyle style)

@@ -6,10 +6,10 @@ class VNComboBox;
 
 // Paints the popup items of a VNComboBox in its combo style, with a status bar in front of items
 // that carry a status, and separators as lines.
-class VNComboBoxDelegate : public QStyledItemDelegate
+class VNComboBoxPopupDelegate : public QStyledItemDelegate
 {
 public:
-    explicit VNComboBoxDelegate(VNComboBox* combo);
+    explicit VNComboBoxPopupDelegate(VNComboBox* combo);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -1,0 +1,20 @@
+#include "VNDoubleSpinBoxData.h"
+
+#include <QLocale>
+
+namespace {
+const int metaTypeId = qRegisterMetaType<VNDoubleSpinBoxData>("VNDoubleSpinBoxData");
+}
+
+QString VNDoubleSpinBoxData::text() const
+{
+    Q_UNUSED(metaTypeId)
+    const QString number = QLocale().toString(value, 'f', decimals);
+    return unit.isEmpty() ? number : number + QLatin1Char(' ') + unit;
+}
+
+bool VNDoubleSpinBoxData::operator==(const VNDoubleSpinBoxData& other) const
+{
+    return qFuzzyCompare(value + 1.0, other.value + 1.0) && unit == other.unit && decimals == other.decimals &&
+           minimum == other.minimum && maximum == other.maximum;
+}
