@@ -33,7 +33,7 @@ const Entry entries[] = {
     {"testFlipWidget", "FlipWidget", "TestFlipWidget"},
     {"testColorDisplay", "Color Display", "TestColorDisplay"},
     {"m_testRegExp", "Reg Exp", "TestRegExp"},
-    {"m_testTreeDelegates", "Tree Delegates", ""},
+    {"m_testTreeDelegates", "Tree Delegates", "TestTreeDelegates"},
     {"m_testTreeItemDelegate", "Tree Item Delegate", "TestTreeItemDelegate"},
     {"m_testLayouts", "Layout && SizeHint", "TestLayoutExample"},
     {"m_testAlignment", "TestAlignment", "TestAlignment"},
