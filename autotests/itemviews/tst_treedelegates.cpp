@@ -1,6 +1,7 @@
 #include "TestTreeDelegates.h"
 
 #include <VNDoubleSpinBox.h>
+#include <VNDoubleSpinBoxData.h>
 #include <VNDragTreeWidget.h>
 #include <VNItemDataRoles.h>
 #include <VNItemDelegate.h>
@@ -88,6 +89,20 @@ private slots:
         m_tree = treeOf(m_dialog);
     }
     void cleanup() { delete m_dialog; }
+
+    // A cell shows a number as a value field does: without digit grouping, so it can be typed back.
+    void cellNumbersHaveNoGrouping()
+    {
+        const QLocale previous;
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        VNDoubleSpinBoxData number;
+        number.value = 1250.5;
+        number.unit = QStringLiteral("mm");
+        number.decimals = 2;
+        const QString text = number.text();
+        QLocale::setDefault(previous);
+        QCOMPARE(text, QStringLiteral("1250.50 mm"));
+    }
 
     void robotNames_data()
     {

@@ -9,7 +9,10 @@ const int metaTypeId = qRegisterMetaType<VNDoubleSpinBoxData>("VNDoubleSpinBoxDa
 QString VNDoubleSpinBoxData::text() const
 {
     Q_UNUSED(metaTypeId)
-    const QString number = QLocale().toString(value, 'f', decimals);
+    // Without digit grouping, as the value fields show numbers: what a cell shows can be typed back.
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    const QString number = locale.toString(value, 'f', decimals);
     return unit.isEmpty() ? number : number + QLatin1Char(' ') + unit;
 }
 
