@@ -1,3 +1,4 @@
+#include "../FormRows.h"
 #include "Loupe.h"
 #include "TestComboBox.h"
 #include "TestWidgetCollection.h"
@@ -83,10 +84,7 @@ void ComboBoxTest::cleanup()
 
 void ComboBoxTest::form_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    const QList<std::tuple<const char*, const char*, const char*>> rows = {
+    addFormRows({
         {"label", "QLabel", "QComboBox"},
         {"label_2", "QLabel", "VNComboBox"},
         {"label_3", "QLabel", "editable VNComboBox"},
@@ -118,9 +116,7 @@ void ComboBoxTest::form_data()
         {"vnUnitComboBox", "VNComboBoxDoubleInput", ""},
         {"comboDeg", "VNComboBoxDoubleInput", ""},
         {"groupableCB", "VNGroupableComboBox", ""},
-    };
-    for (const auto& row : rows)
-        QTest::newRow(std::get<0>(row)) << std::get<0>(row) << std::get<1>(row) << std::get<2>(row);
+    });
 }
 
 void ComboBoxTest::form()
@@ -131,12 +127,7 @@ void ComboBoxTest::form()
     TestComboBox dialog(nullptr);
     QCOMPARE(dialog.objectName(), QString("TestComboBoxClass"));
     QCOMPARE(dialog.windowTitle(), QString("TestComboBox"));
-    QWidget* widget = dialog.findChild<QWidget*>(name);
-    QVERIFY(widget);
-    QCOMPARE(QString(widget->metaObject()->className()), className);
-    const QVariant shown = widget->property("text");
-    if (shown.isValid())
-        QCOMPARE(shown.toString(), text);
+    QVERIFY(formShows(dialog, name, className, text));
 }
 
 void ComboBoxTest::standardItemsAndIcons()

@@ -3,6 +3,8 @@
 #include <VNLabel.h>
 #include <VNSlider.h>
 
+#include "../FormRows.h"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QSignalSpy>
@@ -73,10 +75,7 @@ void SliderViewTest::cleanup()
 
 void SliderViewTest::form_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    const QList<std::tuple<const char*, const char*, const char*>> rows = {
+    addFormRows({
         {"m_vnSlider", "VNSlider", ""},
         {"m_extendedSlider", "VNSlider", ""},
         {"m_spanSlider", "VNSlider", ""},
@@ -119,9 +118,7 @@ void SliderViewTest::form_data()
         {"frame", "QFrame", ""},
         {"vnSeparator", "VNSeparator", ""},
         {"vnSeparator_2", "VNSeparator", ""},
-    };
-    for (const auto& row : rows)
-        QTest::newRow(std::get<0>(row)) << std::get<0>(row) << std::get<1>(row) << std::get<2>(row);
+    });
 }
 
 void SliderViewTest::form()
@@ -132,12 +129,8 @@ void SliderViewTest::form()
     TestVNSliderView dialog(nullptr);
     QCOMPARE(dialog.objectName(), QString("TestVNSliderView"));
     QCOMPARE(dialog.windowTitle(), QString("TestVNSliderView"));
+    QVERIFY(formShows(dialog, name, className, text));
     QWidget* widget = dialog.findChild<QWidget*>(name);
-    QVERIFY(widget);
-    QCOMPARE(QString(widget->metaObject()->className()), className);
-    const QVariant shown = widget->property("text");
-    if (shown.isValid())
-        QCOMPARE(shown.toString(), text);
     if (auto* label = qobject_cast<QLabel*>(widget); label && name.startsWith("label_"))
         QVERIFY(label->buddy());
     auto* tabs = child<QTabWidget>(&dialog, "verticalSliderWidget");
