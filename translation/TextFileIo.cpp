@@ -10,6 +10,7 @@
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
@@ -81,24 +82,16 @@ bool isReadOnly(const QString& filePath, bool exists)
 #endif
 }
 
-// Writes all bytes at the given offset; a short write is retried so that its reason is known.
-bool writeAt(QFile& file, qint64 offset, const char* data, qint64 size)
+// Writes the bytes [from, to) of data at the given offset; reason says why it failed.
+bool writeAt(QFile& file, qint64 offset, const GatheredBytes& data, qint64 from, qint64 to, QString* reason)
 {
-    if (!file.seek(offset))
-        return false;
-    while (size > 0) {
-        const qint64 written = file.write(data, size);
-        if (written <= 0)
-            return false;
-        data += written;
-        size -= written;
-    }
-    return true;
+    return from >= to || data.writeTo(file, offset, from, to, reason);
 }
 
 bool writeBack(QFile& file, const QByteArray& old)
 {
-    return writeAt(file, 0, old.constData(), old.size()) && file.resize(old.size());
+    QString reason;
+    return writeAt(file, 0, GatheredBytes(old), 0, old.size(), &reason) && file.resize(old.size());
 }
 
 // Where the earlier content goes when it cannot be written back; empty if nowhere.
@@ -128,10 +121,10 @@ bool isExcludedByName(const QString& filePath)
     return baseName.startsWith(QLatin1String("Rg")) || baseName.startsWith(QLatin1String("rg"));
 }
 
-Result readBytes(const QString& filePath, QByteArray* bytes)
+namespace {
+// Why the file cannot be read, or Ok.
+Result checkReadable(const QString& filePath, const QFileInfo& info)
 {
-    bytes->clear();
-    const QFileInfo info(filePath);
     if (isExcludedByName(filePath))
         return failure(Status::Excluded, filePath);
     if (!info.exists())
@@ -141,6 +134,17 @@ Result readBytes(const QString& filePath, QByteArray* bytes)
         return failure(Status::NotRegularFile, filePath);
     if (info.size() > maxFileSize)
         return failure(Status::TooLarge, filePath);
+    return failure(Status::Ok, filePath);
+}
+} // namespace
+
+Result readBytes(const QString& filePath, QByteArray* bytes)
+{
+    bytes->clear();
+    const QFileInfo info(filePath);
+    const Result readable = checkReadable(filePath, info);
+    if (!readable.ok())
+        return readable;
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly))
         return failure(Status::NotReadable, filePath, file.errorString());
@@ -149,6 +153,48 @@ Result readBytes(const QString& filePath, QByteArray* bytes)
         return failure(Status::NotReadable, filePath, file.errorString());
     if (bytes->size() != info.size())
         return failure(Status::SizeChanged, filePath);
+    return failure(Status::Ok, filePath);
+}
+
+FileContent::FileContent() = default;
+
+FileContent::~FileContent()
+{
+    m_bytes.clear(); // before the mapping goes
+}
+
+bool FileContent::isSameFile(const QString& path) const
+{
+    if (!m_file)
+        return false; // the bytes are a copy
+#ifdef Q_OS_UNIX
+    struct stat mapped;
+    struct stat other;
+    return ::fstat(m_file->handle(), &mapped) == 0 && ::stat(QFile::encodeName(path).constData(), &other) == 0 &&
+           mapped.st_dev == other.st_dev && mapped.st_ino == other.st_ino;
+#else
+    Q_UNUSED(path)
+    return true; // cannot tell: take the safe way
+#endif
+}
+
+Result readContent(const QString& filePath, FileContent* content)
+{
+    content->m_bytes.clear();
+    content->m_file.reset();
+    const QFileInfo info(filePath);
+    const Result readable = checkReadable(filePath, info);
+    if (!readable.ok())
+        return readable;
+    auto file = std::make_unique<QFile>(filePath);
+    // A pseudo-file announces no size; its bytes can only be read.
+    if (info.size() == 0 || !file->open(QIODevice::ReadOnly) || file->size() != info.size())
+        return readBytes(filePath, &content->m_bytes);
+    const uchar* mapped = file->map(0, info.size(), QFileDevice::MapPrivateOption);
+    if (!mapped)
+        return readBytes(filePath, &content->m_bytes);
+    content->m_bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(mapped), int(info.size()));
+    content->m_file = std::move(file);
     return failure(Status::Ok, filePath);
 }
 
@@ -195,6 +241,11 @@ QString encodingName(Encoding encoding)
 
 Result writeInPlace(const QString& filePath, const QByteArray& data)
 {
+    return writeInPlace(filePath, GatheredBytes(data));
+}
+
+Result writeInPlace(const QString& filePath, const GatheredBytes& data)
+{
     QFile file(filePath);
     const bool existed = file.exists();
     if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered)) {
@@ -205,14 +256,14 @@ Result writeInPlace(const QString& filePath, const QByteArray& data)
     if (file.error() != QFileDevice::NoError)
         return failure(Status::NotReadable, filePath, file.errorString());
     Result result = failure(Status::Ok, filePath);
-    if (old == data)
+    if (data.equals(old))
         return result;
     result.changed = true;
 
     // Growing first: a full disk stops the write before any old byte is overwritten.
-    const qint64 common = std::min(old.size(), data.size());
-    if (!writeAt(file, old.size(), data.constData() + common, data.size() - common)) {
-        const QString reason = file.errorString();
+    const qint64 common = std::min(qint64(old.size()), data.size());
+    QString reason;
+    if (!writeAt(file, old.size(), data, common, data.size(), &reason)) {
         if (!existed) {
             file.remove();
             return failure(Status::WriteFailed, filePath, reason);
@@ -220,12 +271,14 @@ Result writeInPlace(const QString& filePath, const QByteArray& data)
         return file.resize(old.size()) ? failure(Status::WriteFailed, filePath, reason)
                                        : restoreAfterFailure(file, old, reason);
     }
-    if (!writeAt(file, 0, data.constData(), common) || !file.resize(data.size()) || !file.flush())
+    if (!writeAt(file, 0, data, 0, common, &reason))
+        return restoreAfterFailure(file, old, reason);
+    if (!file.resize(data.size()) || !file.flush())
         return restoreAfterFailure(file, old, file.errorString());
     file.close();
     if (file.error() == QFileDevice::NoError)
         return result;
-    const QString reason = file.errorString();
+    reason = file.errorString();
     file.open(QIODevice::ReadWrite | QIODevice::Unbuffered);
     return restoreAfterFailure(file, old, reason);
 }

@@ -1,7 +1,13 @@
 #pragma once
 
+#include "GatheredBytes.h"
+
 #include <QByteArray>
 #include <QString>
+
+#include <memory>
+
+class QFile;
 
 // Reading, decoding and writing the text files of the translation tool, with every failure named.
 namespace TextFileIo {
@@ -53,6 +59,34 @@ bool isExcludedByName(const QString& filePath);
 // The bytes of a regular file.
 Result readBytes(const QString& filePath, QByteArray* bytes);
 
+/*
+  The bytes of a regular file read for processing once: where the system allows it, the file is
+  mapped into memory instead of being copied, which spares the time and the memory of a copy. The
+  bytes stay valid while the object lives.
+*/
+class FileContent
+{
+public:
+    FileContent();
+    ~FileContent();
+    FileContent(const FileContent&) = delete;
+    FileContent& operator=(const FileContent&) = delete;
+
+    // Unchanged while the object lives, unless changed through this reference (which copies them).
+    QByteArray& bytes() { return m_bytes; }
+    // Whether path names this very file (through a hard or symbolic link, for example).
+    bool isSameFile(const QString& path) const;
+
+private:
+    friend Result readContent(const QString& filePath, FileContent* content);
+
+    std::unique_ptr<QFile> m_file;
+    QByteArray m_bytes;
+};
+
+// The bytes of a regular file, as readBytes() gives them, but mapped into memory where possible.
+Result readContent(const QString& filePath, FileContent* content);
+
 // Decodes bytes in the encoding their byte-order mark names (without the mark); Undecodable when
 // they are not valid in that encoding.
 Result decode(const QByteArray& bytes, QString* text, Encoding* encoding);
@@ -69,5 +103,6 @@ QString encodingName(Encoding encoding);
   A file that already holds data is not touched.
 */
 Result writeInPlace(const QString& filePath, const QByteArray& data);
+Result writeInPlace(const QString& filePath, const GatheredBytes& data);
 
 } // namespace TextFileIo

@@ -271,6 +271,164 @@ bool isValidUtf8(const char* data, int size)
     return true;
 }
 
+/*
+  Mock Swedish on UTF-8 bytes, step for step as on text: every pattern is ASCII, and an ASCII byte
+  in UTF-8 is always a whole character, so replacing bytes replaces the same characters. Set aside
+  and put back, the first or last character is a whole UTF-8 sequence.
+*/
+class Utf8MockSwedish
+{
+public:
+    // The mock translation of source, valid until the next call.
+    std::string_view translate(std::string_view source)
+    {
+        std::string& text = m_text;
+        text.assign("\xc3\xbc"); // ü
+        text.append(source.data(), source.size());
+        shieldAndTransform(source);
+        return text;
+    }
+
+private:
+    static constexpr size_t prefix = 2; // the ü in front of the working text
+
+    static bool containsHtml(std::string_view text)
+    {
+        for (size_t at = 0; at + 4 <= text.size(); ++at) {
+            if ((text[at] | 0x20) == 'h' && (text[at + 1] | 0x20) == 't' && (text[at + 2] | 0x20) == 'm' &&
+                (text[at + 3] | 0x20) == 'l')
+                return true;
+        }
+        return false;
+    }
+
+    static size_t sequenceLength(char lead)
+    {
+        const uchar byte = uchar(lead);
+        return byte < 0xC0 ? 1 : byte < 0xE0 ? 2 : byte < 0xF0 ? 3 : 4;
+    }
+
+    // Where the working text's last character starts.
+    size_t lastCharacter() const
+    {
+        size_t at = m_text.size() - 1;
+        while (at > prefix && (uchar(m_text[at]) & 0xC0) == 0x80)
+            --at;
+        return at;
+    }
+
+    size_t afterFirstCharacter() const { return prefix + sequenceLength(m_text[prefix]); }
+
+    // Replaces every before from the index from on, left to right.
+    void replaceAll(std::string_view before, std::string_view after, size_t from)
+    {
+        const std::string_view text(m_text);
+        size_t at = text.find(before, from);
+        if (at == std::string_view::npos)
+            return;
+        std::string& result = m_scratch;
+        result.assign(text.data(), at);
+        size_t copied = at;
+        while (at != std::string_view::npos) {
+            result.append(text.data() + copied, at - copied);
+            result.append(after.data(), after.size());
+            copied = at + before.size();
+            at = text.find(before, copied);
+        }
+        result.append(text.data() + copied, text.size() - copied);
+        m_text.swap(result);
+    }
+
+    void replaceAll(std::initializer_list<std::pair<std::string_view, std::string_view>> replacements,
+                    size_t from = prefix)
+    {
+        for (const auto& replacement : replacements)
+            replaceAll(replacement.first, replacement.second, from);
+    }
+
+    void replaceFirstCharacter(std::string_view replacement)
+    {
+        m_text.replace(prefix, sequenceLength(m_text[prefix]), replacement.data(), replacement.size());
+    }
+
+    void shieldAndTransform(std::string_view source)
+    {
+        if (source.empty() || containsHtml(source)) {
+            m_text.erase(0, prefix);
+            return;
+        }
+        // "&lt;" stays unshielded on purpose: its letters get transformed.
+        replaceAll({{"&quot;", "##1##"}, {"&apos;", "##2##"}, {"&amp;", "##3##"}, {"&gt;", "##4##"}});
+        replaceAll({{"An", "\xc3\x85n"}, {"an", "\xc3\xa5n"}, {"Au", "Oo"}, {"au", "oo"}});
+        // Every A and a becomes E and e, but for the last character.
+        for (size_t at = prefix, last = lastCharacter(); at < last; ++at) {
+            if ((m_text[at] | 0x20) == 'a')
+                m_text[at] += 'e' - 'a';
+        }
+        replaceAll({{"En", "Ee"}, {"en", "ee"}});
+        replaceAll({{"ew", "oo"}, {"f", "ff"}, {"ir", "ur"}, {"tion", "shun"}, {"i", "ee"}, {"ow", "oo"}},
+                   afterFirstCharacter());
+        if (source.front() == 'O')
+            replaceFirstCharacter("\xc3\x98"); // Ø
+        if (source.front() == 'o')
+            replaceFirstCharacter("\xc3\xb8"); // ø
+        if (source.size() >= 2 && source.substr(source.size() - 2) == "th")
+            m_text.erase(lastCharacter());
+        replaceAll("u", "oo", afterFirstCharacter());
+        // In this order a 'W' of the source ends as 'V', not as 'F'.
+        for (size_t at = prefix; at < m_text.size(); ++at) {
+            char& character = m_text[at];
+            if (character == 'V' || character == 'v')
+                character += 'F' - 'V';
+            else if (character == 'W' || character == 'w')
+                character -= 'W' - 'V';
+        }
+        if (m_text.back() == 'e')
+            m_text.append("-\xc3\xa6"); // -æ
+        replaceAll({{"##1##", "&quot;"}, {"##2##", "&apos;"}, {"##3##", "&amp;"}, {"##4##", "&gt;"}});
+    }
+
+    std::string m_text;
+    std::string m_scratch;
+};
+
+// Gathers the output for valid UTF-8 content, referring to the unchanged runs of the content.
+void gatherTsUtf8(const QByteArray& content, int mode, GatheredBytes& output)
+{
+    static const char tagEnd[] = ">";
+    static const char closingTag[] = "</translation>";
+    static const char unfinished[] = " type=\"unfinished\"></translation>";
+    const auto appendLiteral = [&output](const char* literal, size_t size) {
+        output.appendReferenced(literal, qint64(size) - 1);
+    };
+    Utf8MockSwedish mock;
+    int copied = 0;
+    TsEntry entry;
+    const char* data = content.constData();
+    while (findTsEntry(content, copied, &entry)) {
+        output.appendReferenced(data + copied, entry.tagEnd - copied);
+        const char* source = data + entry.sourceBegin();
+        const int sourceSize = entry.sourceEnd - entry.sourceBegin();
+        if (isBlankUtf8(source, source + sourceSize)) {
+            appendLiteral(tagEnd, sizeof tagEnd);
+            output.appendReferenced(source, sourceSize);
+            appendLiteral(closingTag, sizeof closingTag);
+        } else if (mode == TranslationFileTool::MockSwedish) {
+            // Copies that follow each other in memory join into one piece.
+            output.appendCopy(tagEnd, 1);
+            const std::string_view translation = mock.translate(std::string_view(source, size_t(sourceSize)));
+            output.appendCopy(translation.data(), qint64(translation.size()));
+            output.appendCopy(closingTag, qint64(sizeof closingTag) - 1);
+        } else if (isBlankUtf8(data + entry.translationBegin(), data + entry.translationEnd)) {
+            appendLiteral(unfinished, sizeof unfinished);
+        } else {
+            output.appendReferenced(data + entry.attributesEnd, entry.end() - entry.attributesEnd);
+        }
+        copied = entry.end();
+    }
+    output.appendReferenced(data + copied, content.size() - copied);
+}
+
 bool isAsciiLetterOrDigit(QChar character)
 {
     const ushort code = character.unicode();
@@ -356,16 +514,19 @@ bool TranslationFileTool::processTsFile(const QString& filePath, int mode) const
 TranslationFileTool::FileResult TranslationFileTool::processTs(const QString& filePath, int mode) const
 {
     printLine(QByteArrayLiteral("Start parsing ts files at: ") + filePath.toLocal8Bit());
-    QByteArray bytes;
-    const FileResult read = TextFileIo::readBytes(filePath, &bytes);
+    TextFileIo::FileContent input;
+    const FileResult read = TextFileIo::readContent(filePath, &input);
     if (!read.ok())
         return read;
-    QByteArray output;
-    const FileResult converted = convertTs(bytes, mode, &output);
+    GatheredBytes output;
+    const FileResult converted = convertTs(input.bytes(), mode, &output);
     if (!converted.ok())
         return withStatus(converted, converted.status, filePath);
-    bytes.clear(); // the input is no longer needed while the output is written
-    const FileResult written = TextFileIo::writeInPlace(filePath + outputSuffix(mode), output);
+    const QString outputPath = filePath + outputSuffix(mode);
+    // The output refers to the input's bytes, which writing into the input itself would change.
+    if (input.isSameFile(outputPath))
+        output = GatheredBytes(output.toByteArray());
+    const FileResult written = TextFileIo::writeInPlace(outputPath, output);
     if (!written.ok())
         printCannotWrite();
     return written;
@@ -407,32 +568,9 @@ QByteArray TranslationFileTool::processTsUtf8(const QByteArray& content, int mod
 {
     if (mode != FixTags && mode != MockSwedish)
         return content;
-    QByteArray result;
-    result.reserve(content.size() + content.size() / 8);
-    int copied = 0;
-    TsEntry entry;
-    const char* data = content.constData();
-    while (findTsEntry(content, copied, &entry)) {
-        result.append(data + copied, entry.tagEnd - copied);
-        const char* source = data + entry.sourceBegin();
-        const int sourceSize = entry.sourceEnd - entry.sourceBegin();
-        if (isBlankUtf8(source, source + sourceSize)) {
-            result += '>';
-            result.append(source, sourceSize);
-            result += translationClose.data();
-        } else if (mode == MockSwedish) {
-            result += '>';
-            result += mockSwedish(QString::fromUtf8(source, sourceSize)).toUtf8();
-            result += translationClose.data();
-        } else if (isBlankUtf8(data + entry.translationBegin(), data + entry.translationEnd)) {
-            result += " type=\"unfinished\"></translation>";
-        } else {
-            result.append(data + entry.attributesEnd, entry.end() - entry.attributesEnd);
-        }
-        copied = entry.end();
-    }
-    result.append(data + copied, content.size() - copied);
-    return result;
+    GatheredBytes output;
+    gatherTsUtf8(content, mode, output);
+    return output.toByteArray();
 }
 
 QString TranslationFileTool::mockSwedish(const QString& source) const
@@ -555,7 +693,7 @@ QString TranslationFileTool::outputSuffix(int mode)
   UTF-8 without a byte-order mark, the usual case, is processed as bytes, which needs neither a
   decoded copy of the file nor the time to make one; other encodings are decoded first.
 */
-TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes, int mode, QByteArray* output) const
+TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes, int mode, GatheredBytes* output) const
 {
     FileResult result;
     if (mode != FixTags && mode != MockSwedish)
@@ -565,7 +703,7 @@ TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes
             bytes.replace("\r", "");
         if (bytes.isEmpty())
             return withStatus(result, Status::Empty, QString());
-        *output = processTsUtf8(bytes, mode);
+        gatherTsUtf8(bytes, mode, *output);
         return result;
     }
     QString content;
@@ -576,7 +714,7 @@ TranslationFileTool::FileResult TranslationFileTool::convertTs(QByteArray& bytes
     removeCarriageReturns(content);
     if (content.isEmpty())
         return withStatus(result, Status::Empty, QString());
-    *output = TextFileIo::encode(processTsContent(content, mode), encoding);
+    output->appendShared(TextFileIo::encode(processTsContent(content, mode), encoding));
     return result;
 }
 

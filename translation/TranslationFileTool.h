@@ -92,6 +92,7 @@ public:
 
 private:
     static QString outputSuffix(int mode);
-    // The output for the bytes of a .ts file (which may be changed); the input's encoding is kept.
-    FileResult convertTs(QByteArray& bytes, int mode, QByteArray* output) const;
+    // The output for the bytes of a .ts file (which may be changed), referring to them; the input's
+    // encoding is kept.
+    FileResult convertTs(QByteArray& bytes, int mode, GatheredBytes* output) const;
 };

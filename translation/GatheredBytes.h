@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+class QFile;
+
+/*
+  Bytes made of pieces of other buffers, in order. A processed file is mostly the input with a few
+  changes; keeping references to the unchanged runs instead of copying them together, and writing
+  the pieces with gathering system calls, spares a copy of the whole file and the memory for it.
+
+  Referenced bytes must outlive the object and stay unchanged; copied and shared ones are kept by
+  the object itself.
+*/
+class GatheredBytes
+{
+public:
+    GatheredBytes() = default;
+    explicit GatheredBytes(const QByteArray& bytes);
+    GatheredBytes(GatheredBytes&&) = default;
+    GatheredBytes& operator=(GatheredBytes&&) = default;
+    GatheredBytes(const GatheredBytes&) = delete;
+    GatheredBytes& operator=(const GatheredBytes&) = delete;
+
+    void appendReferenced(const char* data, qint64 size);
+    // Keeps a shallow copy of bytes, so that their data stays valid.
+    void appendShared(const QByteArray& bytes);
+    void appendCopy(const char* data, qint64 size);
+
+    qint64 size() const { return m_size; }
+    QByteArray toByteArray() const;
+    bool equals(const QByteArray& bytes) const;
+
+    // Writes the bytes [from, to) at offset into the open file; on failure reason says why.
+    bool writeTo(QFile& file, qint64 offset, qint64 from, qint64 to, QString* reason) const;
+
+private:
+    struct Piece
+    {
+        const char* data;
+        qint64 size;
+    };
+
+    std::vector<Piece> m_pieces;
+    std::vector<std::unique_ptr<char[]>> m_blocks;
+    char* m_free = nullptr;
+    qint64 m_freeSize = 0;
+    QList<QByteArray> m_shared;
+    qint64 m_size = 0;
+};
