@@ -11,6 +11,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         FUZZ_CHECK(result == source);
     else
         FUZZ_CHECK(result.startsWith(QStringLiteral("ü")));
+    // Valid UTF-8 is transformed as bytes, with the same result.
+    const QByteArray bytes(reinterpret_cast<const char*>(data), int(size));
+    if (source.toUtf8() == bytes)
+        FUZZ_CHECK(TranslationFileTool().mockSwedishUtf8(bytes) == result.toUtf8());
     if (size <= oracleLimit)
         FUZZ_CHECK(result == TranslationOracle::mockSwedish(source));
     return 0;
@@ -20,4 +24,5 @@ void checkGrowth(const QByteArray& seed)
 {
     const TranslationFileTool tool;
     checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.mockSwedish(text); });
+    checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.mockSwedishUtf8(text.toUtf8()); });
 }

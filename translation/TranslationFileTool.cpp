@@ -645,6 +645,13 @@ QString TranslationFileTool::mockSwedish(const QString& source) const
     return QStringLiteral("ü") + text;
 }
 
+QByteArray TranslationFileTool::mockSwedishUtf8(const QByteArray& source) const
+{
+    Utf8MockSwedish mock;
+    const std::string_view translation = mock.translate(std::string_view(source.constData(), size_t(source.size())));
+    return QByteArray(translation.data(), int(translation.size()));
+}
+
 bool TranslationFileTool::isBlank(const QString& text) const
 {
     return isBlankText(text.constData(), text.constData() + text.size());

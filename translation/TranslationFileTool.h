@@ -60,6 +60,8 @@ public:
     QByteArray processTsUtf8(const QByteArray& content, int mode) const;
 
     QString mockSwedish(const QString& source) const;
+    // The same for valid UTF-8 text, without decoding it.
+    QByteArray mockSwedishUtf8(const QByteArray& source) const;
     bool isBlank(const QString& text) const;
 
     int countString(const QString& filePath, const QString& text) const;

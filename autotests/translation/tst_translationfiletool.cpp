@@ -78,6 +78,9 @@ private Q_SLOTS:
     void writesKeepFileIdentity();
     void failingWritesLoseNothing_data();
     void failingWritesLoseNothing();
+    void outputThatIsTheInputItself_data();
+    void outputThatIsTheInputItself();
+    void longOutputIsWrittenWholeOrNotAtAll();
     void processDirectorySkipsLegacyAndLinks();
     void matchesOracleOnCorpus_data();
     void matchesOracleOnCorpus();
@@ -148,6 +151,12 @@ void TestTranslationFileTool::mockSwedish_data()
     row("10 W ends as V, 8 th", "Width", "üVeedt");
     // 13: every translation starts with ü.
     row("13 one letter", "x", "üx");
+    // Set aside and put back, a first or last character outside ASCII stays whole.
+    row("6 first character outside ASCII", "Äpfel", "üÄpffel");
+    row("4 last character outside ASCII", "Café", "üCeffé");
+    row("6 and 9 first character beyond the BMP", "😀 fun", "ü😀 ffoon");
+    row("4 last character beyond the BMP", "Data 😀", "üDete 😀");
+    row("7 and 8 on three letters", "Oth", "üØt");
 }
 
 void TestTranslationFileTool::mockSwedish()
@@ -155,6 +164,7 @@ void TestTranslationFileTool::mockSwedish()
     QFETCH(QString, source);
     QFETCH(QString, expected);
     QCOMPARE(m_tool.mockSwedish(source), expected);
+    QCOMPARE(m_tool.mockSwedishUtf8(source.toUtf8()), expected.toUtf8());
     QCOMPARE(TranslationOracle::mockSwedish(source), expected);
 }
 
@@ -487,6 +497,58 @@ void TestTranslationFileTool::failingWritesLoseNothing()
     QVERIFY(!fix.ok() || limit == 0);
 #else
     QSKIP("needs a file size limit");
+#endif
+}
+
+void TestTranslationFileTool::outputThatIsTheInputItself_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("hardLink");
+    QTest::newRow("fix, hard link") << 0 << true;
+    QTest::newRow("mock, hard link") << 1 << true;
+    QTest::newRow("mock, symbolic link") << 1 << false;
+}
+
+// The output is computed from the whole input before the input itself is overwritten.
+void TestTranslationFileTool::outputThatIsTheInputItself()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, mode);
+    QFETCH(bool, hardLink);
+    QByteArray ts;
+    for (int entry = 0; entry < 400; ++entry)
+        ts += "<source>Open file " + QByteArray::number(entry) + "</source><translation type=\"x\"></translation>\n";
+    const QString path = writeFile(QStringLiteral("linked%1%2.ts").arg(mode).arg(hardLink), ts);
+    const QString output = path + (mode == 0 ? ".fix" : ".swe");
+    QVERIFY(hardLink ? ::link(qPrintable(path), qPrintable(output)) == 0 : QFile::link(path, output));
+    QVERIFY(m_tool.processTsFile(path, mode));
+    const QByteArray expected = TranslationOracle::processTsContent(QString::fromUtf8(ts), mode).toUtf8();
+    QCOMPARE(readBytes(output), expected);
+    QCOMPARE(readBytes(path), expected);
+#else
+    QSKIP("needs hard links");
+#endif
+}
+
+// More pieces than one system call writes, and a write that stops among them.
+void TestTranslationFileTool::longOutputIsWrittenWholeOrNotAtAll()
+{
+    QByteArray ts;
+    for (int entry = 0; entry < 5000; ++entry)
+        ts += "<source>Save as " + QByteArray::number(entry) + "</source><translation>x</translation>\n";
+    const QString path = writeFile(QStringLiteral("long.ts"), ts);
+    const QByteArray expected = m_tool.processTsContent(QString::fromUtf8(ts), 1).toUtf8();
+    QVERIFY(m_tool.processTsFile(path, 1));
+    QCOMPARE(readBytes(path + ".swe"), expected);
+#ifdef Q_OS_UNIX
+    const QString earlier = writeFile(QStringLiteral("long.ts.swe"), "earlier");
+    TextFileIo::Result mock;
+    {
+        const FileSizeLimit full(rlim_t(expected.size() / 2));
+        mock = m_tool.processTs(path, 1);
+    }
+    QCOMPARE(int(mock.status), int(TextFileIo::Status::WriteFailed));
+    QCOMPARE(readBytes(earlier), QByteArray("earlier"));
 #endif
 }
 
