@@ -1,0 +1,159 @@
+// Processor time and peak memory of twc-translate mock and fix on a generated 19 MiB .ts file,
+// next to lconvert reading and writing the same file, all measured in one run as separate
+// processes. Prints the figures and their ratios against the goals.
+
+#include "GeneratedTs.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+const int rounds = 5;
+const double mockGoal = 0.25; // at most this share of lconvert's processor time
+const double fixGoal = 0.20;
+const double memoryGoal = 3.0; // peak memory at most this multiple of the file size
+
+struct Usage
+{
+    double seconds = 0;   // user + system
+    double megabytes = 0; // maximum resident set size
+    bool succeeded = false;
+};
+
+// Runs program with its output discarded and returns what it used.
+Usage run(const QString& program, const QStringList& arguments)
+{
+    std::vector<QByteArray> storage;
+    storage.push_back(QFile::encodeName(program));
+    for (const QString& argument : arguments)
+        storage.push_back(QFile::encodeName(argument));
+    std::vector<char*> argv;
+    for (QByteArray& argument : storage)
+        argv.push_back(argument.data());
+    argv.push_back(nullptr);
+
+    // fork(), not vfork(): a child that shares its parent's memory until exec() inherits the
+    // parent's peak memory as its own.
+    const pid_t child = fork();
+    if (child == 0) {
+        const int null = open("/dev/null", O_WRONLY);
+        dup2(null, STDOUT_FILENO);
+        dup2(null, STDERR_FILENO);
+        execv(argv[0], argv.data());
+        _exit(127);
+    }
+    Usage usage;
+    int status = 0;
+    rusage used{};
+    if (child > 0 && wait4(child, &status, 0, &used) == child) {
+        usage.seconds = double(used.ru_utime.tv_sec + used.ru_stime.tv_sec) +
+                        double(used.ru_utime.tv_usec + used.ru_stime.tv_usec) / 1e6;
+        usage.megabytes = double(used.ru_maxrss) / 1024.0; // kilobytes on Linux
+        usage.succeeded = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    }
+    return usage;
+}
+
+// The least processor time of all rounds (other programs share the machine) and the most memory.
+void keepBest(Usage& best, const Usage& measured, bool first)
+{
+    if (first || measured.seconds < best.seconds)
+        best.seconds = measured.seconds;
+    if (first || measured.megabytes > best.megabytes)
+        best.megabytes = measured.megabytes;
+    best.succeeded = (first || best.succeeded) && measured.succeeded;
+}
+
+QString findLconvert()
+{
+    const QString onPath = QStandardPaths::findExecutable(QStringLiteral("lconvert"));
+    if (!onPath.isEmpty())
+        return onPath;
+    return QStandardPaths::findExecutable(QStringLiteral("lconvert"), {QStringLiteral("/usr/lib/qt5/bin")});
+}
+
+// Writes the input and returns its size, or -1. The generated text is gone again before any
+// program is measured: a started process counts the memory it took over from this one.
+qint64 writeGeneratedTs(const QString& path)
+{
+    const QByteArray ts = generateTs(20 * 1000 * 1000);
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(ts) == ts.size() ? ts.size() : -1;
+}
+
+void printUsage(const char* name, const Usage& usage, double fileMegabytes)
+{
+    std::printf("%-34s %8.3f %10.1f %10.2f%s\n", name, usage.seconds, usage.megabytes, usage.megabytes / fileMegabytes,
+                usage.succeeded ? "" : "  (failed)");
+}
+
+void printRatio(const char* what, double ratio, double goal)
+{
+    std::printf("%-44s %6.3f  goal at most %.2f: %s\n", what, ratio, goal, ratio <= goal ? "met" : "NOT met");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication application(argc, argv);
+    QTemporaryDir workDir;
+    if (!workDir.isValid()) {
+        std::fprintf(stderr, "cannot create a temporary directory\n");
+        return 1;
+    }
+    const QString input = workDir.filePath(QStringLiteral("generated.ts"));
+    const qint64 size = writeGeneratedTs(input);
+    if (size < 0) {
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(input));
+        return 1;
+    }
+    const double fileMegabytes = size / (1024.0 * 1024.0);
+    std::printf("input: generated .ts file of %lld bytes (%.2f MiB), best of %d rounds\n\n", size, fileMegabytes,
+                rounds);
+
+    const QString translate = QStringLiteral(TWC_TRANSLATE_EXECUTABLE);
+    const QString lconvert = findLconvert();
+    Usage converted, mocked, fixed;
+    for (int round = 0; round < rounds; ++round) {
+        const bool first = round == 0;
+        if (!lconvert.isEmpty())
+            keepBest(
+                converted,
+                run(lconvert, {QStringLiteral("-i"), input, QStringLiteral("-o"), input + QStringLiteral(".out.ts")}),
+                first);
+        // Each output is written anew, as on a first run.
+        QFile::remove(input + QStringLiteral(".swe"));
+        keepBest(mocked, run(translate, {QStringLiteral("mock"), input}), first);
+        QFile::remove(input + QStringLiteral(".fix"));
+        keepBest(fixed, run(translate, {QStringLiteral("fix"), input}), first);
+    }
+
+    std::printf("%-34s %8s %10s %10s\n", "program", "cpu s", "max RSS MB", "RSS/file");
+    if (!lconvert.isEmpty())
+        printUsage("lconvert -i FILE -o OUT", converted, fileMegabytes);
+    printUsage("twc-translate mock FILE", mocked, fileMegabytes);
+    printUsage("twc-translate fix FILE", fixed, fileMegabytes);
+    std::printf("\n");
+    if (lconvert.isEmpty() || !converted.succeeded || converted.seconds <= 0) {
+        std::printf("lconvert is not available (install qttools5-dev-tools): the time ratios are skipped\n");
+    } else {
+        printRatio("mock processor time / lconvert's", mocked.seconds / converted.seconds, mockGoal);
+        printRatio("fix processor time / lconvert's", fixed.seconds / converted.seconds, fixGoal);
+    }
+    printRatio("mock max RSS / file size", mocked.megabytes / fileMegabytes, memoryGoal);
+    printRatio("fix max RSS / file size", fixed.megabytes / fileMegabytes, memoryGoal);
+    return mocked.succeeded && fixed.succeeded ? 0 : 1;
+}
