@@ -4,21 +4,78 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
 #include <climits>
+#include <sys/mman.h>
 #include <sys/uio.h>
 #endif
 
 namespace {
-// Copies go into blocks of this size, so that a copied piece never moves.
-const qint64 blockSize = 256 * 1024;
+// Copies and pieces go into blocks, so that they never move; the blocks grow up to this size.
+const qint64 largestBlockSize = 2 * 1024 * 1024;
+// Smaller blocks come from the heap.
+const qint64 smallestMappedBlock = 256 * 1024;
 } // namespace
+
+#if defined(Q_OS_UNIX) && defined(MAP_POPULATE)
+
+// All pages of a block at once: one page fault at a time costs more than the copying.
+GatheredBytes::Block GatheredBytes::allocateBlock(qint64 size)
+{
+    if (size < smallestMappedBlock)
+        return Block(new char[size_t(size)], BlockDeleter{0});
+    void* block =
+        ::mmap(nullptr, size_t(size), PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1, 0);
+    if (block == MAP_FAILED)
+        throw std::bad_alloc();
+    return Block(static_cast<char*>(block), BlockDeleter{size});
+}
+
+void GatheredBytes::BlockDeleter::operator()(char* block) const
+{
+    if (size == 0)
+        delete[] block;
+    else
+        ::munmap(block, size_t(size));
+}
+
+#else
+
+GatheredBytes::Block GatheredBytes::allocateBlock(qint64 size)
+{
+    return Block(new char[size_t(size)], BlockDeleter{size});
+}
+
+void GatheredBytes::BlockDeleter::operator()(char* block) const
+{
+    delete[] block;
+}
+
+#endif
+
+qint64 GatheredBytes::nextBlockSize(qint64 previous)
+{
+    return std::min(largestBlockSize, std::max(qint64(4096), previous * 2));
+}
 
 GatheredBytes::GatheredBytes(const QByteArray& bytes)
 {
     appendShared(bytes);
+}
+
+template<typename Visit>
+void GatheredBytes::forEachPiece(Visit visit) const
+{
+    for (const PieceBlock& block : m_pieceBlocks) {
+        const Piece* pieces = reinterpret_cast<const Piece*>(block.block.get());
+        for (qint64 index = 0; index < block.count; ++index) {
+            if (!visit(pieces[index]))
+                return;
+        }
+    }
 }
 
 void GatheredBytes::appendReferenced(const char* data, qint64 size)
@@ -27,10 +84,18 @@ void GatheredBytes::appendReferenced(const char* data, qint64 size)
         return;
     m_size += size;
     // Neighbouring runs, such as consecutive copies, become one piece.
-    if (!m_pieces.empty() && m_pieces.back().data + m_pieces.back().size == data)
-        m_pieces.back().size += size;
-    else
-        m_pieces.push_back({data, size});
+    if (m_lastPiece && m_lastPiece->data + m_lastPiece->size == data) {
+        m_lastPiece->size += size;
+        return;
+    }
+    if (m_pieceBlocks.empty() || m_pieceBlocks.back().count == m_pieceBlocks.back().capacity) {
+        const qint64 bytes =
+            nextBlockSize(m_pieceBlocks.empty() ? 0 : m_pieceBlocks.back().capacity * qint64(sizeof(Piece)));
+        m_pieceBlocks.push_back({allocateBlock(bytes), bytes / qint64(sizeof(Piece)), 0});
+    }
+    PieceBlock& block = m_pieceBlocks.back();
+    m_lastPiece = reinterpret_cast<Piece*>(block.block.get()) + block.count++;
+    *m_lastPiece = {data, size};
 }
 
 void GatheredBytes::appendShared(const QByteArray& bytes)
@@ -46,8 +111,9 @@ void GatheredBytes::appendCopy(const char* data, qint64 size)
     if (size <= 0)
         return;
     if (size > m_freeSize) {
-        const qint64 allocated = std::max(blockSize, size);
-        m_blocks.emplace_back(new char[size_t(allocated)]);
+        m_copyBlockSize = nextBlockSize(m_copyBlockSize);
+        const qint64 allocated = std::max(m_copyBlockSize, size);
+        m_blocks.push_back(allocateBlock(allocated));
         m_free = m_blocks.back().get();
         m_freeSize = allocated;
     }
@@ -59,12 +125,14 @@ void GatheredBytes::appendCopy(const char* data, qint64 size)
 
 QByteArray GatheredBytes::toByteArray() const
 {
-    if (m_pieces.size() == 1 && m_shared.size() == 1)
+    if (m_pieceBlocks.size() == 1 && m_pieceBlocks.front().count == 1 && m_shared.size() == 1)
         return m_shared.constFirst();
     QByteArray bytes;
     bytes.reserve(int(m_size));
-    for (const Piece& piece : m_pieces)
+    forEachPiece([&bytes](const Piece& piece) {
         bytes.append(piece.data, int(piece.size));
+        return true;
+    });
     return bytes;
 }
 
@@ -73,51 +141,65 @@ bool GatheredBytes::equals(const QByteArray& bytes) const
     if (bytes.size() != m_size)
         return false;
     const char* compared = bytes.constData();
-    for (const Piece& piece : m_pieces) {
-        if (std::memcmp(piece.data, compared, size_t(piece.size)) != 0)
-            return false;
+    bool equal = true;
+    forEachPiece([&](const Piece& piece) {
+        equal = std::memcmp(piece.data, compared, size_t(piece.size)) == 0;
         compared += piece.size;
-    }
-    return true;
+        return equal;
+    });
+    return equal;
 }
 
 #ifdef Q_OS_UNIX
 
-bool GatheredBytes::writeTo(QFile& file, qint64 offset, qint64 from, qint64 to, QString* reason) const
+namespace {
+// Writes all vectors at offset, which moves on; a short write goes on where it stopped, to learn
+// the reason if it stopped for good.
+bool writeVectors(int handle, iovec* vectors, int count, qint64& offset, QString* reason)
 {
-    // The pieces that hold [from, to), the first and last one cut to size.
-    std::vector<iovec> vectors;
-    qint64 start = 0;
-    for (const Piece& piece : m_pieces) {
-        const qint64 begin = std::max(from, start);
-        const qint64 end = std::min(to, start + piece.size);
-        if (begin < end)
-            vectors.push_back({const_cast<char*>(piece.data + (begin - start)), size_t(end - begin)});
-        start += piece.size;
-        if (start >= to)
-            break;
-    }
-    size_t next = 0;
-    while (next < vectors.size()) {
-        const int count = int(std::min(vectors.size() - next, size_t(IOV_MAX)));
-        const ssize_t written = ::pwritev(file.handle(), vectors.data() + next, count, off_t(offset));
+    while (count > 0) {
+        const ssize_t written = ::pwritev(handle, vectors, count, off_t(offset));
         if (written <= 0) {
             *reason = qt_error_string(written < 0 ? errno : ENOSPC);
             return false;
         }
         offset += written;
-        // A short write goes on where it stopped, to learn the reason if it stopped for good.
         for (size_t remaining = size_t(written); remaining > 0;) {
-            iovec& vector = vectors[next];
-            const size_t taken = std::min(remaining, vector.iov_len);
-            vector.iov_base = static_cast<char*>(vector.iov_base) + taken;
-            vector.iov_len -= taken;
+            const size_t taken = std::min(remaining, vectors->iov_len);
+            vectors->iov_base = static_cast<char*>(vectors->iov_base) + taken;
+            vectors->iov_len -= taken;
             remaining -= taken;
-            if (vector.iov_len == 0)
-                ++next;
+            if (vectors->iov_len == 0) {
+                ++vectors;
+                --count;
+            }
         }
     }
     return true;
+}
+} // namespace
+
+bool GatheredBytes::writeTo(QFile& file, qint64 offset, qint64 from, qint64 to, QString* reason) const
+{
+    // The pieces that hold [from, to), the first and last one cut to size, a system call's worth
+    // at a time.
+    iovec vectors[IOV_MAX];
+    int count = 0;
+    qint64 start = 0;
+    bool written = true;
+    forEachPiece([&](const Piece& piece) {
+        const qint64 begin = std::max(from, start);
+        const qint64 end = std::min(to, start + piece.size);
+        if (begin < end)
+            vectors[count++] = {const_cast<char*>(piece.data + (begin - start)), size_t(end - begin)};
+        start += piece.size;
+        if (count == IOV_MAX || (start >= to && count > 0)) {
+            written = writeVectors(file.handle(), vectors, count, offset, reason);
+            count = 0;
+        }
+        return written && start < to;
+    });
+    return written && (count == 0 || writeVectors(file.handle(), vectors, count, offset, reason));
 }
 
 #else
@@ -129,20 +211,21 @@ bool GatheredBytes::writeTo(QFile& file, qint64 offset, qint64 from, qint64 to, 
         return false;
     }
     qint64 start = 0;
-    for (const Piece& piece : m_pieces) {
+    bool written = true;
+    forEachPiece([&](const Piece& piece) {
         const qint64 begin = std::max(from, start);
         const qint64 end = std::min(to, start + piece.size);
-        for (qint64 at = begin; at < end;) {
-            const qint64 written = file.write(piece.data + (at - start), end - at);
-            if (written <= 0) {
-                *reason = file.errorString();
-                return false;
-            }
-            at += written;
+        for (qint64 at = begin; written && at < end;) {
+            const qint64 count = file.write(piece.data + (at - start), end - at);
+            written = count > 0;
+            at += count;
         }
         start += piece.size;
-    }
-    return true;
+        return written && start < to;
+    });
+    if (!written)
+        *reason = file.errorString();
+    return written;
 }
 
 #endif

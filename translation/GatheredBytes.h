@@ -45,11 +45,34 @@ private:
         const char* data;
         qint64 size;
     };
+    struct BlockDeleter
+    {
+        qint64 size;
+        void operator()(char* block) const;
+    };
+    using Block = std::unique_ptr<char[], BlockDeleter>;
 
-    std::vector<Piece> m_pieces;
-    std::vector<std::unique_ptr<char[]>> m_blocks;
+    static Block allocateBlock(qint64 size);
+    // The size of the next block: small ones for small contents, larger ones as the content grows.
+    static qint64 nextBlockSize(qint64 previous);
+    // Calls visit for each piece in order while it returns true.
+    template<typename Visit>
+    void forEachPiece(Visit visit) const;
+
+    struct PieceBlock
+    {
+        Block block;
+        qint64 capacity;
+        qint64 count;
+    };
+
+    // The pieces, in blocks that never move.
+    std::vector<PieceBlock> m_pieceBlocks;
+    Piece* m_lastPiece = nullptr;
+    std::vector<Block> m_blocks;
     char* m_free = nullptr;
     qint64 m_freeSize = 0;
+    qint64 m_copyBlockSize = 0;
     QList<QByteArray> m_shared;
     qint64 m_size = 0;
 };
