@@ -138,14 +138,23 @@ QByteArray GatheredBytes::toByteArray() const
 
 bool GatheredBytes::equals(const QByteArray& bytes) const
 {
-    if (bytes.size() != m_size)
+    return bytes.size() == m_size && matchesAt(0, bytes.constData(), bytes.size());
+}
+
+bool GatheredBytes::matchesAt(qint64 from, const char* data, qint64 size) const
+{
+    if (from < 0 || size < 0 || from + size > m_size)
         return false;
-    const char* compared = bytes.constData();
+    const qint64 to = from + size;
+    qint64 start = 0;
     bool equal = true;
     forEachPiece([&](const Piece& piece) {
-        equal = std::memcmp(piece.data, compared, size_t(piece.size)) == 0;
-        compared += piece.size;
-        return equal;
+        const qint64 begin = std::max(from, start);
+        const qint64 end = std::min(to, start + piece.size);
+        if (begin < end)
+            equal = std::memcmp(piece.data + (begin - start), data + (begin - from), size_t(end - begin)) == 0;
+        start += piece.size;
+        return equal && start < to;
     });
     return equal;
 }

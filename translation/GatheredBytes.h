@@ -35,6 +35,8 @@ public:
     qint64 size() const { return m_size; }
     QByteArray toByteArray() const;
     bool equals(const QByteArray& bytes) const;
+    // Whether the bytes from position from on begin with the size bytes at data.
+    bool matchesAt(qint64 from, const char* data, qint64 size) const;
 
     // Writes the bytes [from, to) at offset into the open file; on failure reason says why.
     bool writeTo(QFile& file, qint64 offset, qint64 from, qint64 to, QString* reason) const;

@@ -89,6 +89,40 @@ bool writeAt(QFile& file, qint64 offset, const GatheredBytes& data, qint64 from,
     return from >= to || data.writeTo(file, offset, from, to, reason);
 }
 
+// The whole open file mapped into memory, or null; unmapped when the file closes.
+const uchar* mapWhole(QFile& file, qint64 size)
+{
+    const uchar* mapped = file.map(0, size, QFileDevice::MapPrivateOption);
+#if defined(Q_OS_UNIX) && defined(MADV_POPULATE_READ)
+    // One system call maps all pages, instead of a page fault for every few of them.
+    if (mapped)
+        ::madvise(const_cast<uchar*>(mapped), size_t(size), MADV_POPULATE_READ);
+#endif
+    return mapped;
+}
+
+/*
+  Whether the open file holds data already, looked at without copying it: a window at a time is
+  mapped into memory, so that the file does not add its size to the memory in use.
+*/
+bool holdsAlready(QFile& file, const GatheredBytes& data)
+{
+    const qint64 window = 4 * 1024 * 1024;
+    if (file.size() != data.size() || data.size() == 0)
+        return false;
+    for (qint64 from = 0; from < data.size(); from += window) {
+        const qint64 size = std::min(window, data.size() - from);
+        const uchar* mapped = file.map(from, size, QFileDevice::MapPrivateOption);
+        if (!mapped)
+            return false;
+        const bool same = data.matchesAt(from, reinterpret_cast<const char*>(mapped), size);
+        file.unmap(const_cast<uchar*>(mapped));
+        if (!same)
+            return false;
+    }
+    return true;
+}
+
 bool writeBack(QFile& file, const QByteArray& old)
 {
     QString reason;
@@ -191,13 +225,9 @@ Result readContent(const QString& filePath, FileContent* content)
     // A pseudo-file announces no size; its bytes can only be read.
     if (info.size() == 0 || !file->open(QIODevice::ReadOnly) || file->size() != info.size())
         return readBytes(filePath, &content->m_bytes);
-    const uchar* mapped = file->map(0, info.size(), QFileDevice::MapPrivateOption);
+    const uchar* mapped = mapWhole(*file, info.size());
     if (!mapped)
         return readBytes(filePath, &content->m_bytes);
-#if defined(Q_OS_UNIX) && defined(MADV_POPULATE_READ)
-    // One system call maps all pages, instead of a page fault for every few of them.
-    ::madvise(const_cast<uchar*>(mapped), size_t(info.size()), MADV_POPULATE_READ);
-#endif
     content->m_bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(mapped), int(info.size()));
     content->m_file = std::move(file);
     return failure(Status::Ok, filePath);
@@ -257,6 +287,9 @@ Result writeInPlace(const QString& filePath, const GatheredBytes& data)
         const Status status = isReadOnly(filePath, existed) ? Status::ReadOnly : Status::WriteFailed;
         return failure(status, filePath, file.errorString());
     }
+    // Running the tool again usually gives the same output, which need not be copied to be compared.
+    if (holdsAlready(file, data))
+        return failure(Status::Ok, filePath);
     const QByteArray old = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return failure(Status::NotReadable, filePath, file.errorString());

@@ -81,6 +81,7 @@ private Q_SLOTS:
     void outputThatIsTheInputItself_data();
     void outputThatIsTheInputItself();
     void longOutputIsWrittenWholeOrNotAtAll();
+    void sameOutputIsNotWrittenAgain();
     void processDirectorySkipsLegacyAndLinks();
     void matchesOracleOnCorpus_data();
     void matchesOracleOnCorpus();
@@ -550,6 +551,23 @@ void TestTranslationFileTool::longOutputIsWrittenWholeOrNotAtAll()
     QCOMPARE(int(mock.status), int(TextFileIo::Status::WriteFailed));
     QCOMPARE(readBytes(earlier), QByteArray("earlier"));
 #endif
+}
+
+// An earlier output of the same size is compared all through, also beyond its first few megabytes.
+void TestTranslationFileTool::sameOutputIsNotWrittenAgain()
+{
+    QByteArray ts;
+    for (int entry = 0; ts.size() < 5 * 1024 * 1024; ++entry)
+        ts += "<source>Open file " + QByteArray::number(entry) + "</source><translation>x</translation>\n";
+    const QString path = writeFile(QStringLiteral("again.ts"), ts);
+    QVERIFY(m_tool.processTs(path, 0).changed);
+    const QByteArray expected = readBytes(path + ".fix");
+    QVERIFY(!m_tool.processTs(path, 0).changed);
+    QByteArray changedNearEnd = expected;
+    changedNearEnd[changedNearEnd.size() - 3] = 'y';
+    writeFile(QStringLiteral("again.ts.fix"), changedNearEnd);
+    QVERIFY(m_tool.processTs(path, 0).changed);
+    QCOMPARE(readBytes(path + ".fix"), expected);
 }
 
 void TestTranslationFileTool::processDirectorySkipsLegacyAndLinks()
