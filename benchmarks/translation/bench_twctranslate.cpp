@@ -95,13 +95,14 @@ qint64 writeGeneratedTs(const QString& path)
 
 void printUsage(const char* name, const Usage& usage, double fileMegabytes)
 {
-    std::printf("%-34s %8.3f %10.1f %10.2f%s\n", name, usage.seconds, usage.megabytes, usage.megabytes / fileMegabytes,
+    std::printf("%-40s %8.3f %10.1f %10.2f%s\n", name, usage.seconds, usage.megabytes, usage.megabytes / fileMegabytes,
                 usage.succeeded ? "" : "  (failed)");
 }
 
-void printRatio(const char* what, double ratio, double goal)
+void printRatio(const QByteArray& what, double ratio, double goal)
 {
-    std::printf("%-44s %6.3f  goal at most %.2f: %s\n", what, ratio, goal, ratio <= goal ? "met" : "NOT met");
+    std::printf("%-68s %6.3f  goal at most %.2f: %s\n", what.constData(), ratio, goal,
+                ratio <= goal ? "met" : "NOT met");
 }
 
 } // namespace
@@ -126,34 +127,57 @@ int main(int argc, char** argv)
 
     const QString translate = QStringLiteral(TWC_TRANSLATE_EXECUTABLE);
     const QString lconvert = findLconvert();
-    Usage converted, mocked, fixed;
+    const QString swe = input + QStringLiteral(".swe");
+    const QString fix = input + QStringLiteral(".fix");
+    struct Case
+    {
+        const char* name;
+        QString program;
+        QStringList arguments;
+        QString removedBefore; // an output written anew, as on a first run
+        double timeGoal;
+        Usage usage;
+    };
+    std::vector<Case> cases = {
+        {"twc-translate mock FILE", translate, {QStringLiteral("mock"), input}, swe, mockGoal, {}},
+        {"twc-translate mock FILE, output there", translate, {QStringLiteral("mock"), input}, QString(), mockGoal, {}},
+        {"twc-translate fix FILE", translate, {QStringLiteral("fix"), input}, fix, fixGoal, {}},
+        {"twc-translate fix FILE, output there", translate, {QStringLiteral("fix"), input}, QString(), fixGoal, {}},
+    };
+    if (!lconvert.isEmpty())
+        cases.insert(cases.begin(),
+                     {"lconvert -i FILE -o OUT",
+                      lconvert,
+                      {QStringLiteral("-i"), input, QStringLiteral("-o"), input + QStringLiteral(".out.ts")},
+                      QString(),
+                      1.0,
+                      {}});
+    // Round after round, so that a busy spell of the machine hits every program alike.
     for (int round = 0; round < rounds; ++round) {
-        const bool first = round == 0;
-        if (!lconvert.isEmpty())
-            keepBest(
-                converted,
-                run(lconvert, {QStringLiteral("-i"), input, QStringLiteral("-o"), input + QStringLiteral(".out.ts")}),
-                first);
-        // Each output is written anew, as on a first run.
-        QFile::remove(input + QStringLiteral(".swe"));
-        keepBest(mocked, run(translate, {QStringLiteral("mock"), input}), first);
-        QFile::remove(input + QStringLiteral(".fix"));
-        keepBest(fixed, run(translate, {QStringLiteral("fix"), input}), first);
+        for (Case& measured : cases) {
+            if (!measured.removedBefore.isEmpty())
+                QFile::remove(measured.removedBefore);
+            keepBest(measured.usage, run(measured.program, measured.arguments), round == 0);
+        }
     }
 
-    std::printf("%-34s %8s %10s %10s\n", "program", "cpu s", "max RSS MB", "RSS/file");
-    if (!lconvert.isEmpty())
-        printUsage("lconvert -i FILE -o OUT", converted, fileMegabytes);
-    printUsage("twc-translate mock FILE", mocked, fileMegabytes);
-    printUsage("twc-translate fix FILE", fixed, fileMegabytes);
+    std::printf("%-40s %8s %10s %10s\n", "program", "cpu s", "max RSS MB", "RSS/file");
+    for (const Case& measured : cases)
+        printUsage(measured.name, measured.usage, fileMegabytes);
     std::printf("\n");
-    if (lconvert.isEmpty() || !converted.succeeded || converted.seconds <= 0) {
+    const bool compared = !lconvert.isEmpty() && cases.front().usage.succeeded && cases.front().usage.seconds > 0;
+    if (!compared)
         std::printf("lconvert is not available (install qttools5-dev-tools): the time ratios are skipped\n");
-    } else {
-        printRatio("mock processor time / lconvert's", mocked.seconds / converted.seconds, mockGoal);
-        printRatio("fix processor time / lconvert's", fixed.seconds / converted.seconds, fixGoal);
+    bool succeeded = true;
+    for (const Case& measured : cases) {
+        if (measured.program != translate)
+            continue;
+        const QByteArray name(measured.name);
+        if (compared)
+            printRatio(name + ": processor time / lconvert's", measured.usage.seconds / cases.front().usage.seconds,
+                       measured.timeGoal);
+        printRatio(name + ": max RSS / file size", measured.usage.megabytes / fileMegabytes, memoryGoal);
+        succeeded = succeeded && measured.usage.succeeded;
     }
-    printRatio("mock max RSS / file size", mocked.megabytes / fileMegabytes, memoryGoal);
-    printRatio("fix max RSS / file size", fixed.megabytes / fileMegabytes, memoryGoal);
-    return mocked.succeeded && fixed.succeeded ? 0 : 1;
+    return succeeded ? 0 : 1;
 }
