@@ -326,6 +326,12 @@ private:
         size_t at = text.find(before, from);
         if (at == std::string_view::npos)
             return;
+        if (before.size() == after.size()) {
+            // In place: what follows a replacement is not looked at before it is reached.
+            for (; at != std::string_view::npos; at = text.find(before, at + before.size()))
+                std::memcpy(&m_text[at], after.data(), after.size());
+            return;
+        }
         std::string& result = m_scratch;
         result.assign(text.data(), at);
         size_t copied = at;
