@@ -123,6 +123,27 @@ bool holdsAlready(QFile& file, const GatheredBytes& data)
     return true;
 }
 
+// The whole open file, its pages provided at once: one page fault at a time costs more than copying.
+QByteArray readWhole(QFile& file)
+{
+    const qint64 size = file.size();
+    if (size <= 0 || size > maxFileSize * 4)
+        return file.readAll();
+    QByteArray bytes(int(size), Qt::Uninitialized);
+#if defined(Q_OS_UNIX) && defined(MADV_POPULATE_WRITE)
+    const quintptr page = quintptr(::sysconf(_SC_PAGESIZE));
+    const quintptr begin = (quintptr(bytes.data()) + page - 1) & ~(page - 1);
+    const quintptr end = (quintptr(bytes.data()) + quintptr(size)) & ~(page - 1);
+    if (end > begin)
+        ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_POPULATE_WRITE);
+#endif
+    const qint64 read = file.read(bytes.data(), size);
+    bytes.resize(int(std::max(read, qint64(0))));
+    if (read == size)
+        bytes += file.readAll(); // it may have grown meanwhile
+    return bytes;
+}
+
 bool writeBack(QFile& file, const QByteArray& old)
 {
     QString reason;
@@ -290,7 +311,7 @@ Result writeInPlace(const QString& filePath, const GatheredBytes& data)
     // Running the tool again usually gives the same output, which need not be copied to be compared.
     if (holdsAlready(file, data))
         return failure(Status::Ok, filePath);
-    const QByteArray old = file.readAll();
+    const QByteArray old = readWhole(file);
     if (file.error() != QFileDevice::NoError)
         return failure(Status::NotReadable, filePath, file.errorString());
     Result result = failure(Status::Ok, filePath);

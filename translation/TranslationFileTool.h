@@ -20,6 +20,10 @@
   Files are decoded as a text stream decodes them: a byte-order mark picks
   UTF-8, UTF-16 or UTF-32, UTF-8 otherwise; output keeps the encoding of its
   input. Text that is not valid in its encoding is refused, never mangled.
+
+  A .ts file in UTF-8 without a byte-order mark, the usual case, is never
+  decoded: it is mapped into memory and processed as bytes, and its output
+  refers to the unchanged runs of the input instead of copying them.
 */
 class TranslationFileTool
 {
