@@ -291,6 +291,7 @@ void TestSquish::setUpAnimatedTabBars()
         }
         ui.animatedTabBarLayout->addWidget(reduced);
     }
+    ui.animatedTabBarLayout->addStretch();
 }
 
 void TestSquish::setUpNavigationBars()
