@@ -1,5 +1,7 @@
 #include "VNSlider.h"
 
+#include "VNStatusPainter_p.h"
+
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -344,6 +346,10 @@ void VNSlider::paintEvent(QPaintEvent*)
     else
         paintAdmissibleHandles(painter);
     paintValueHandle(painter);
+    // The status word arrives as the dynamic property that plain widgets carry; it frames the
+    // whole slider like the status look of a field.
+    painter.resetTransform();
+    VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
 }
 
 void VNSlider::paintRelevantRange(QPainter& painter) const
