@@ -3,13 +3,16 @@
 #include "ContactSheet.h"
 #include "ObjectMap.h"
 
+#include <CollectionClock.h>
 #include <TestWidgetCollection.h>
 #include <VNStyleSheet.h>
 
 #include <algorithm>
 
+#include <QAbstractAnimation>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCursor>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -17,9 +20,11 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLayout>
+#include <QLocale>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSet>
+#include <QStyleFactory>
 #include <QTemporaryFile>
 #include <QTextStream>
 #include <QTimer>
@@ -29,6 +34,14 @@ namespace {
 // Shipped by Debian's fonts-dejavu-core, so that texts measure the same on every machine.
 const QString reproducibleFontFile = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
 const int reproducibleFontPointSize = 9;
+// Qt's own style, which every Qt build has, whatever style plugins a machine adds.
+const QString reproducibleStyle = QStringLiteral("Fusion");
+// The date a screenshot run shows as today, and where its mouse rests: off every screen, so that
+// nothing is hovered and the state inspector follows nothing.
+const QDate reproducibleToday(2022, 4, 1);
+const QPoint reproducibleCursorPosition(-10000, -10000);
+// Animations that start further animations when they end are finished this many times at most.
+const int maxAnimationRounds = 10;
 // How long a window that runs modally stays open before it is mapped and ended.
 const int modalWindowDelayMs = 200;
 // Built from the collection's own texts and embedded into the library when lupdate and lrelease
@@ -82,6 +95,32 @@ QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
     return windows;
 }
 
+// Brings every running animation of the window to its end, so that the window is saved at rest
+// rather than at whatever frame the clock reached.
+void finishAnimations(QWidget* window)
+{
+    for (int round = 0; round < maxAnimationRounds; ++round) {
+        bool finished = false;
+        const QList<QAbstractAnimation*> animations = window->findChildren<QAbstractAnimation*>();
+        for (QAbstractAnimation* animation : animations) {
+            if (animation->state() != QAbstractAnimation::Running)
+                continue;
+            finished = true;
+            if (animation->inherits("QStyleAnimation"))
+                delete animation; // the style paints the first frame of a new one
+            else if (animation->totalDuration() < 0)
+                animation->stop();
+            else
+                animation->setCurrentTime(
+                    animation->direction() == QAbstractAnimation::Forward ? animation->totalDuration() : 0);
+        }
+        // Layouts follow the sizes the animations ended with.
+        QCoreApplication::sendPostedEvents();
+        if (!finished)
+            return;
+    }
+}
+
 // Ends the modal window that a click opened; a dialog is ended even when it refuses to close.
 void endModalWindow()
 {
@@ -131,8 +170,10 @@ int HostApplication::start(const QStringList& arguments)
     if (parser.isSet(mockLocaleOption) && !installMockTranslation())
         return 1;
 
-    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption))
+    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption)) {
         useReproducibleLook();
+        useReproducibleBehaviour();
+    }
     VNStyleSheet::applyTo(qApp);
     m_panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
 
@@ -243,13 +284,26 @@ void HostApplication::useReproducibleLook()
     }
     QFont font(families.first(), reproducibleFontPointSize);
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
     QApplication::setFont(font);
+}
+
+// Everything else a screenshot run fixes so that it gives the same pixels on every machine and day.
+void HostApplication::useReproducibleBehaviour()
+{
+    QApplication::setStyle(QStyleFactory::create(reproducibleStyle));
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    // A text cursor that never blinks is drawn in every screenshot alike.
+    QApplication::setCursorFlashTime(0);
+    QCursor::setPos(reproducibleCursorPosition);
+    CollectionClock::fixToday(reproducibleToday);
 }
 
 bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
 {
     m_panel->show();
     QApplication::processEvents();
+    finishAnimations(m_panel.get());
     if (!visit(nullptr, m_panel.get(), 0))
         return false;
     QList<LauncherButton> buttons = launcherButtons();
@@ -264,8 +318,10 @@ bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
         const auto visitNewWindows = [&] {
             const QList<QWidget*> windows = newlyShownWindows(before);
             for (QWidget* window : windows) {
-                if (ok && !visited.contains(window))
+                if (ok && !visited.contains(window)) {
+                    finishAnimations(window);
                     ok = visit(entry.button, window, visited.size());
+                }
                 visited << window;
             }
         };

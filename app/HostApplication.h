@@ -43,6 +43,7 @@ private:
     int writeObjectMap(const QString& path);
     bool saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const;
     void useReproducibleLook();
+    void useReproducibleBehaviour();
     bool installMockTranslation();
 
     std::unique_ptr<QTranslator> m_mockTranslation;
