@@ -30,8 +30,8 @@ void choosePlatform(int argc, char* argv[])
 }
 
 // Screenshots and object maps give the same pixels and geometry on every machine: one device pixel
-// per logical pixel, 96 dots per inch for fonts, UTC, and neither the user's style nor desktop theme,
-// whatever the screen and the user's settings.
+// per logical pixel, 96 dots per inch for fonts, UTC, a fixed order of hashes, and neither the user's
+// style nor desktop theme, whatever the screen and the user's settings.
 void fixReproducibleEnvironment(int argc, char* argv[])
 {
     if (!isReproducibleRun(argc, argv))
@@ -42,6 +42,8 @@ void fixReproducibleEnvironment(int argc, char* argv[])
         qunsetenv(variable);
     qputenv("QT_FONT_DPI", "96");
     qputenv("TZ", "UTC");
+    // Whatever shows the contents of a hash or set shows them in the same order in every run.
+    qSetGlobalQHashSeed(0);
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
 }
