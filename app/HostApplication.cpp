@@ -8,6 +8,7 @@
 #include <VNStyleSheet.h>
 
 #include <algorithm>
+#include <tuple>
 
 #include <QAbstractAnimation>
 #include <QApplication>
@@ -90,8 +91,13 @@ QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
         if (!windows.contains(widget->window()))
             windows << widget->window();
     }
+    // Qt keeps its widgets in a set; windows alike in name are told apart by class and title.
+    const auto key = [](const QWidget* window) {
+        return std::make_tuple(window->objectName(), QString::fromLatin1(window->metaObject()->className()),
+                               window->windowTitle());
+    };
     std::sort(windows.begin(), windows.end(),
-              [](const QWidget* left, const QWidget* right) { return left->objectName() < right->objectName(); });
+              [&key](const QWidget* left, const QWidget* right) { return key(left) < key(right); });
     return windows;
 }
 
