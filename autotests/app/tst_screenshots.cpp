@@ -97,21 +97,22 @@ private slots:
     void initTestCase();
     void matchesReference_data();
     void matchesReference();
+    void ignoresUserSettings();
 
 private:
-    bool takeScreenshots();
+    bool takeScreenshots(const QProcessEnvironment& environment, const QString& directory);
     void acceptScreenshots();
 
     QTemporaryDir m_home;
     QTemporaryDir m_screenshots;
 };
 
-bool ScreenshotsTest::takeScreenshots()
+bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, const QString& directory)
 {
     QProcess host;
-    host.setProcessEnvironment(reproducibleEnvironment(QDir(m_home.path())));
+    host.setProcessEnvironment(environment);
     host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--screenshot"), m_screenshots.path()});
+    host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--screenshot"), directory});
     return host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
 }
 
@@ -133,7 +134,8 @@ void ScreenshotsTest::initTestCase()
 {
     QVERIFY(m_home.isValid() && m_screenshots.isValid());
     QVERIFY2(QFile::exists(fontConfiguration), qPrintable(fontConfiguration));
-    QVERIFY2(takeScreenshots(), "the screenshot run failed");
+    QVERIFY2(takeScreenshots(reproducibleEnvironment(QDir(m_home.path())), m_screenshots.path()),
+             "the screenshot run failed");
     QVERIFY(QDir(resultsDirectory).removeRecursively() && QDir().mkpath(resultsDirectory));
     if (qEnvironmentVariableIntValue("TWC_ACCEPT_SCREENSHOTS") == 1)
         acceptScreenshots();
@@ -179,6 +181,28 @@ void ScreenshotsTest::matchesReference()
                          .arg(reference.height())
                          .arg(differing)
                          .arg(results.filePath(file), results.filePath(differenceFile), acceptCommand)));
+}
+
+// A designer's own scaling, style, fonts dots per inch, language and time zone change nothing.
+void ScreenshotsTest::ignoresUserSettings()
+{
+    QProcessEnvironment environment = reproducibleEnvironment(QDir(m_home.path()));
+    environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
+    environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("Windows"));
+    environment.insert(QStringLiteral("QT_FONT_DPI"), QStringLiteral("120"));
+    environment.insert(QStringLiteral("LANG"), QStringLiteral("de_DE.UTF-8"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("de_DE.UTF-8"));
+    environment.insert(QStringLiteral("TZ"), QStringLiteral("Pacific/Auckland"));
+    QTemporaryDir directory;
+    QVERIFY(takeScreenshots(environment, directory.path()));
+    const QDir screenshots(m_screenshots.path());
+    QCOMPARE(screenshotNames(QDir(directory.path())), screenshotNames(screenshots));
+    for (const QString& name : screenshotNames(screenshots)) {
+        const QString file = name + QStringLiteral(".png");
+        QVERIFY2(comparable(QImage(screenshots.filePath(file))) ==
+                     comparable(QImage(QDir(directory.path()).filePath(file))),
+                 qPrintable(name));
+    }
 }
 
 QTEST_GUILESS_MAIN(ScreenshotsTest)
