@@ -7,7 +7,9 @@
 set -euo pipefail
 top="$(cd "$(dirname "$0")/.." && pwd)"
 build_dir="${BUILD_DIR:-$top/build}"
-if [ ! -f "$build_dir/CMakeCache.txt" ]; then
+if [ -f "$build_dir/CMakeCache.txt" ]; then
+    cmake -S "$top" -B "$build_dir" -DBUILD_TESTING=ON > /dev/null
+else
     cmake -S "$top" -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" -DBUILD_TESTING=ON
 fi
 cmake --build "$build_dir" --target testwidgetcollection tst_screenshots

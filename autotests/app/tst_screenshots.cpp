@@ -183,7 +183,7 @@ void ScreenshotsTest::matchesReference()
                          .arg(results.filePath(file), results.filePath(differenceFile), acceptCommand)));
 }
 
-// A designer's own scaling, style, fonts dots per inch, language and time zone change nothing.
+// A designer's own scaling, style, font resolution, language and time zone change nothing.
 void ScreenshotsTest::ignoresUserSettings()
 {
     QProcessEnvironment environment = reproducibleEnvironment(QDir(m_home.path()));
@@ -196,13 +196,16 @@ void ScreenshotsTest::ignoresUserSettings()
     QTemporaryDir directory;
     QVERIFY(takeScreenshots(environment, directory.path()));
     const QDir screenshots(m_screenshots.path());
-    QCOMPARE(screenshotNames(QDir(directory.path())), screenshotNames(screenshots));
+    const QDir withSettings(directory.path());
+    QCOMPARE(screenshotNames(withSettings), screenshotNames(screenshots));
+    QStringList changed;
     for (const QString& name : screenshotNames(screenshots)) {
         const QString file = name + QStringLiteral(".png");
-        QVERIFY2(comparable(QImage(screenshots.filePath(file))) ==
-                     comparable(QImage(QDir(directory.path()).filePath(file))),
-                 qPrintable(name));
+        if (comparable(QImage(screenshots.filePath(file))) != comparable(QImage(withSettings.filePath(file))))
+            changed << name;
     }
+    QVERIFY2(changed.isEmpty(), qPrintable(QStringLiteral("windows that look different with a designer's settings: ") +
+                                           changed.join(QStringLiteral(", "))));
 }
 
 QTEST_GUILESS_MAIN(ScreenshotsTest)
