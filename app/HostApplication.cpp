@@ -158,7 +158,9 @@ int HostApplication::start(const QStringList& arguments)
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"),
         QStringLiteral("Open every launcher button in turn, save each window that appears as DIR/<button>.png and "
-                       "the panel as DIR/TestWidgetCollection.png, then exit."),
+                       "the panel as DIR/TestWidgetCollection.png, then exit. Windows are saved at rest (animations "
+                       "ended, nothing hovered, a fixed date), offscreen, with a fixed font, style and locale, so "
+                       "that every machine gives the same pixels."),
         QStringLiteral("DIR"));
     const QCommandLineOption mockLocaleOption(
         QStringLiteral("mock-locale"),

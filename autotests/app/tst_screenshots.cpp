@@ -134,6 +134,8 @@ void ScreenshotsTest::initTestCase()
 {
     QVERIFY(m_home.isValid() && m_screenshots.isValid());
     QVERIFY2(QFile::exists(fontConfiguration), qPrintable(fontConfiguration));
+    QVERIFY2(QFile::exists(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")),
+             "the references show Debian's fonts-dejavu-core: install it with scripts/bootstrap.sh");
     QVERIFY2(takeScreenshots(reproducibleEnvironment(QDir(m_home.path())), m_screenshots.path()),
              "the screenshot run failed");
     QVERIFY(QDir(resultsDirectory).removeRecursively() && QDir().mkpath(resultsDirectory));
