@@ -111,9 +111,11 @@ bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, co
 {
     QProcess host;
     host.setProcessEnvironment(environment);
-    host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--screenshot"), directory});
-    return host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
+    const bool ok = host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
+    if (!ok)
+        qWarning("%s", host.readAllStandardError().constData());
+    return ok;
 }
 
 void ScreenshotsTest::acceptScreenshots()
