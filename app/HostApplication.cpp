@@ -272,6 +272,8 @@ int HostApplication::openButtons(const QStringList& names)
 bool HostApplication::saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const
 {
     const QString path = directory.filePath(name + QStringLiteral(".png"));
+    // Again here: showing another page of a window may have started animations of its own.
+    finishAnimations(window);
     if (!window->grab().save(path, "PNG")) {
         err() << "testwidgetcollection: cannot write \"" << path << "\"." << Qt::endl;
         return false;
