@@ -18,14 +18,20 @@ bool isReproducibleRun(int argc, char* argv[])
     return hasOption(argc, argv, "--screenshot") || hasOption(argc, argv, "--object-map");
 }
 
-// Listing the buttons needs no display. Screenshots and object maps are taken offscreen unless a
-// platform is asked for: there no real mouse hovers a widget and no window manager moves windows.
+bool needsNoDisplay(int argc, char* argv[])
+{
+    return hasOption(argc, argv, "--list") || hasOption(argc, argv, "--help") || hasOption(argc, argv, "-h");
+}
+
+// Listing the buttons and the help need no display. Screenshots and object maps are taken
+// offscreen unless a platform is asked for: there no real mouse hovers a widget and no window
+// manager moves windows.
 void choosePlatform(int argc, char* argv[])
 {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    if (isReproducibleRun(argc, argv) || (hasOption(argc, argv, "--list") && !qEnvironmentVariableIsSet("DISPLAY") &&
-                                          !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")))
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (isReproducibleRun(argc, argv) || (needsNoDisplay(argc, argv) && !hasDisplay))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
