@@ -3,13 +3,17 @@
 #include "ContactSheet.h"
 #include "ObjectMap.h"
 
+#include <CollectionClock.h>
 #include <TestWidgetCollection.h>
 #include <VNStyleSheet.h>
 
 #include <algorithm>
+#include <tuple>
 
+#include <QAbstractAnimation>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QCursor>
 #include <QDialog>
 #include <QDir>
 #include <QFileInfo>
@@ -17,9 +21,11 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLayout>
+#include <QLocale>
 #include <QPixmap>
 #include <QPushButton>
 #include <QSet>
+#include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryFile>
 #include <QTextStream>
@@ -30,6 +36,14 @@ namespace {
 // Shipped by Debian's fonts-dejavu-core, so that texts measure the same on every machine.
 const QString reproducibleFontFile = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
 const int reproducibleFontPointSize = 9;
+// Qt's own style, which every Qt build has, whatever style plugins a machine adds.
+const QString reproducibleStyle = QStringLiteral("Fusion");
+// The date a screenshot run shows as today, and where its mouse rests: off every screen, so that
+// nothing is hovered and the state inspector follows nothing.
+const QDate reproducibleToday(2022, 4, 1);
+const QPoint reproducibleCursorPosition(-10000, -10000);
+// Animations that start further animations when they end are finished this many times at most.
+const int maxAnimationRounds = 10;
 // How long a window that runs modally stays open before it is mapped and ended.
 const int modalWindowDelayMs = 200;
 // Built from the collection's own texts and embedded into the library when lupdate and lrelease
@@ -95,9 +109,40 @@ QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
         if (!windows.contains(widget->window()))
             windows << widget->window();
     }
+    // Qt keeps its widgets in a set; windows alike in name are told apart by class and title.
+    const auto key = [](const QWidget* window) {
+        return std::make_tuple(window->objectName(), QString::fromLatin1(window->metaObject()->className()),
+                               window->windowTitle());
+    };
     std::sort(windows.begin(), windows.end(),
-              [](const QWidget* left, const QWidget* right) { return left->objectName() < right->objectName(); });
+              [&key](const QWidget* left, const QWidget* right) { return key(left) < key(right); });
     return windows;
+}
+
+// Brings every running animation of the window to its end, so that the window is saved at rest
+// rather than at whatever frame the clock reached.
+void finishAnimations(QWidget* window)
+{
+    for (int round = 0; round < maxAnimationRounds; ++round) {
+        bool finished = false;
+        const QList<QAbstractAnimation*> animations = window->findChildren<QAbstractAnimation*>();
+        for (QAbstractAnimation* animation : animations) {
+            if (animation->state() != QAbstractAnimation::Running)
+                continue;
+            finished = true;
+            if (animation->inherits("QStyleAnimation"))
+                delete animation; // the style paints the first frame of a new one
+            else if (animation->totalDuration() < 0)
+                animation->stop();
+            else
+                animation->setCurrentTime(
+                    animation->direction() == QAbstractAnimation::Forward ? animation->totalDuration() : 0);
+        }
+        // Layouts follow the sizes the animations ended with.
+        QCoreApplication::sendPostedEvents();
+        if (!finished)
+            return;
+    }
 }
 
 // Ends the modal window that a click opened; a dialog is ended even when it refuses to close.
@@ -131,7 +176,9 @@ int HostApplication::start(const QStringList& arguments)
     const QCommandLineOption screenshotOption(
         QStringLiteral("screenshot"),
         QStringLiteral("Open every launcher button in turn, save each window that appears as DIR/<button>.png and "
-                       "the panel as DIR/TestWidgetCollection.png, then exit."),
+                       "the panel as DIR/TestWidgetCollection.png, then exit. Windows are saved at rest (animations "
+                       "ended, nothing hovered, a fixed date), offscreen, with a fixed font, style and locale, so "
+                       "that every machine gives the same pixels."),
         QStringLiteral("DIR"));
     const QCommandLineOption mockLocaleOption(
         QStringLiteral("mock-locale"),
@@ -149,8 +196,10 @@ int HostApplication::start(const QStringList& arguments)
     if (parser.isSet(mockLocaleOption) && !installMockTranslation())
         return 1;
 
-    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption))
+    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption)) {
         useReproducibleLook();
+        useReproducibleBehaviour();
+    }
     VNStyleSheet::applyTo(qApp);
     m_panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
 
@@ -241,6 +290,8 @@ int HostApplication::openButtons(const QStringList& names)
 bool HostApplication::saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const
 {
     const QString path = directory.filePath(name + QStringLiteral(".png"));
+    // Again here: showing another page of a window may have started animations of its own.
+    finishAnimations(window);
     if (!window->grab().save(path, "PNG")) {
         err() << "testwidgetcollection: cannot write \"" << path << "\"." << Qt::endl;
         return false;
@@ -279,13 +330,26 @@ void HostApplication::useReproducibleLook()
     }
     QFont font(families.first(), reproducibleFontPointSize);
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(QFont::NoSubpixelAntialias);
     QApplication::setFont(font);
+}
+
+// Everything else a screenshot run fixes so that it gives the same pixels on every machine and day.
+void HostApplication::useReproducibleBehaviour()
+{
+    QApplication::setStyle(QStyleFactory::create(reproducibleStyle));
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    // A text cursor that never blinks is drawn in every screenshot alike.
+    QApplication::setCursorFlashTime(0);
+    QCursor::setPos(reproducibleCursorPosition);
+    CollectionClock::fixToday(reproducibleToday);
 }
 
 bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
 {
     m_panel->show();
     QApplication::processEvents();
+    finishAnimations(m_panel.get());
     if (!visit(nullptr, m_panel.get(), 0))
         return false;
     QList<LauncherButton> buttons = launcherButtons();
@@ -300,8 +364,10 @@ bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
         const auto visitNewWindows = [&] {
             const QList<QWidget*> windows = newlyShownWindows(before);
             for (QWidget* window : windows) {
-                if (ok && !visited.contains(window))
+                if (ok && !visited.contains(window)) {
+                    finishAnimations(window);
                     ok = visit(entry.button, window, visited.size());
+                }
                 visited << window;
             }
         };

@@ -48,6 +48,7 @@ private:
     bool saveTabScreenshots(const QDir& directory, const QString& name, const QString& caption, QWidget* window,
                             QTabWidget* tabs, ContactSheet& sheet) const;
     void useReproducibleLook();
+    void useReproducibleBehaviour();
     bool installMockTranslation();
 
     std::unique_ptr<QTranslator> m_mockTranslation;

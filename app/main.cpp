@@ -13,27 +13,43 @@ bool hasOption(int argc, char* argv[], const QByteArray& option)
     return false;
 }
 
-// Listing the buttons and writing screenshots need no display.
-void preferOffscreenWithoutDisplay(int argc, char* argv[])
+bool isReproducibleRun(int argc, char* argv[])
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY") ||
-        qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+    return hasOption(argc, argv, "--screenshot") || hasOption(argc, argv, "--object-map");
+}
+
+bool needsNoDisplay(int argc, char* argv[])
+{
+    return hasOption(argc, argv, "--list") || hasOption(argc, argv, "--help") || hasOption(argc, argv, "-h");
+}
+
+// Listing the buttons and the help need no display. Screenshots and object maps are taken
+// offscreen unless a platform is asked for: there no real mouse hovers a widget and no window
+// manager moves windows.
+void choosePlatform(int argc, char* argv[])
+{
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    if (hasOption(argc, argv, "--list") || hasOption(argc, argv, "--screenshot") ||
-        hasOption(argc, argv, "--object-map"))
+    const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (isReproducibleRun(argc, argv) || (needsNoDisplay(argc, argv) && !hasDisplay))
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 // Screenshots and object maps give the same pixels and geometry on every machine: one device pixel
-// per logical pixel and 96 dots per inch for fonts, whatever the screen and the user's settings.
-void fixDevicePixelRatio(int argc, char* argv[])
+// per logical pixel, 96 dots per inch for fonts, UTC, a fixed order of hashes, and neither the user's
+// style nor desktop theme, whatever the screen and the user's settings.
+void fixReproducibleEnvironment(int argc, char* argv[])
 {
-    if (!hasOption(argc, argv, "--screenshot") && !hasOption(argc, argv, "--object-map"))
+    if (!isReproducibleRun(argc, argv))
         return;
-    for (const char* variable : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
-                                 "QT_ENABLE_HIGHDPI_SCALING", "QT_DEVICE_PIXEL_RATIO"})
+    for (const char* variable :
+         {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR", "QT_ENABLE_HIGHDPI_SCALING",
+          "QT_DEVICE_PIXEL_RATIO", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME"})
         qunsetenv(variable);
     qputenv("QT_FONT_DPI", "96");
+    qputenv("TZ", "UTC");
+    // Whatever shows the contents of a hash or set shows them in the same order in every run.
+    qSetGlobalQHashSeed(0);
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
 }
@@ -41,8 +57,8 @@ void fixDevicePixelRatio(int argc, char* argv[])
 
 int main(int argc, char* argv[])
 {
-    preferOffscreenWithoutDisplay(argc, argv);
-    fixDevicePixelRatio(argc, argv);
+    choosePlatform(argc, argv);
+    fixReproducibleEnvironment(argc, argv);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("testwidgetcollection"));
     HostApplication host;

@@ -3,6 +3,8 @@
 #include "VNWidgetInterface.h"
 #include "VNWidgetStatus.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -267,7 +269,10 @@ void DebugStateInfo::refresh()
 void DebugStateInfo::rebuildWindowTree()
 {
     m_windowTree->clear();
-    const QWidgetList windows = QApplication::topLevelWidgets();
+    // Qt lists the windows in no particular order; sorted, the tree looks the same every time.
+    QWidgetList windows = QApplication::topLevelWidgets();
+    std::stable_sort(windows.begin(), windows.end(),
+                     [](const QWidget* left, const QWidget* right) { return widgetTitle(left) < widgetTitle(right); });
     for (QWidget* window : windows) {
         if (window == this || !window->isVisible())
             continue;

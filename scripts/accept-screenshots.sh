@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Makes the current look of every window the reference: builds the collection and the screenshot
+# test into build/ (or $BUILD_DIR), takes the screenshots in the test's own fixed environment and
+# writes them into autotests/app/screenshots, removing references of windows that are gone.
+# Review the result with `git status autotests/app/screenshots` (and an image diff tool), then
+# commit it.
+set -euo pipefail
+top="$(cd "$(dirname "$0")/.." && pwd)"
+build_dir="${BUILD_DIR:-$top/build}"
+if [ -f "$build_dir/CMakeCache.txt" ]; then
+    cmake -S "$top" -B "$build_dir" -DBUILD_TESTING=ON > /dev/null
+else
+    cmake -S "$top" -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" -DBUILD_TESTING=ON
+fi
+cmake --build "$build_dir" --target testwidgetcollection tst_screenshots
+cd "$build_dir"
+TWC_ACCEPT_SCREENSHOTS=1 ctest -R '^tst_screenshots$' --output-on-failure
+git -C "$top" status --short -- autotests/app/screenshots
