@@ -74,14 +74,15 @@ QWidget* placeInContainer(QWidget* container, QWidget* widget)
 
 void setUpCalendar(QCalendarWidget* calendar)
 {
+    // A locale change resets the first day of the week to the locale's, so the locale comes first.
+    QLocale locale = calendar->locale();
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    calendar->setLocale(locale);
     calendar->setFirstDayOfWeek(Qt::Monday);
     calendar->setGridVisible(true);
     const QTextCharFormat weekday = calendar->weekdayTextFormat(Qt::Monday);
     calendar->setWeekdayTextFormat(Qt::Saturday, weekday);
     calendar->setWeekdayTextFormat(Qt::Sunday, weekday);
-    QLocale locale = calendar->locale();
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    calendar->setLocale(locale);
 }
 } // namespace
 
