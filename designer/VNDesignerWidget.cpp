@@ -32,7 +32,12 @@ QString VNDesignerWidget::iconPath(const QString& family)
 
 QIcon VNDesignerWidget::icon() const
 {
-    return QIcon(iconPath(m_info.family));
+    // Designer's widget box only takes icons that list their sizes, which a scalable one does not.
+    const QIcon scalable(iconPath(m_info.family));
+    QIcon icon;
+    for (int extent : {16, 22, 24, 32})
+        icon.addPixmap(scalable.pixmap(extent));
+    return icon;
 }
 
 QWidget* VNDesignerWidget::createWidget(QWidget* parent)
