@@ -70,6 +70,11 @@ QString enumProperty(const char* name, const char* value)
         .arg(QLatin1String(name), QLatin1String(value));
 }
 
+QString numberProperty(const char* name, int value)
+{
+    return QStringLiteral("<property name=\"%1\"><number>%2</number></property>").arg(QLatin1String(name)).arg(value);
+}
+
 QString page(const char* name, const char* title)
 {
     return QStringLiteral("<widget class=\"QWidget\" name=\"%1\">"
@@ -255,7 +260,7 @@ QVector<VNDesignerWidgetInfo> displays()
                              {"colorDisplay", {24, 24}, {}}),
         widget<VNBarChart>("VNBarChart", "display", QT_TRANSLATE_NOOP("VNDesignerCatalog", "Bar chart"),
                            QT_TRANSLATE_NOOP("VNDesignerCatalog", "A chart of labelled, coloured bars under a header."),
-                           {"vnBarChart", {240, 160}, {}}),
+                           {"vnBarChart", {240, 160}, stringProperty("headerLabel", "Header")}),
         widget<VNMultiProgressBar>(
             "VNMultiProgressBar", "display", QT_TRANSLATE_NOOP("VNDesignerCatalog", "Multi progress bar"),
             QT_TRANSLATE_NOOP("VNDesignerCatalog", "A progress bar for a row of operations, one segment each."),
@@ -265,7 +270,10 @@ QVector<VNDesignerWidgetInfo> displays()
             QT_TRANSLATE_NOOP("VNDesignerCatalog",
                               "A row of points that shows how many inputs an operation needs, accepts and "
                               "has got."),
-            {"vnDisplayNeededInput", {200, 40}, {}}),
+            {"vnDisplayNeededInput",
+             {200, 40},
+             numberProperty("needed", 3) + numberProperty("checked", 1) +
+                 stringProperty("infoText", "Select the points")}),
     };
 }
 

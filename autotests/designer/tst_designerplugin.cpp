@@ -49,6 +49,7 @@
 #include <VNValueEdit.h>
 #include <VNViewSwitcher.h>
 
+#include <QBuffer>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QPluginLoader>
@@ -192,6 +193,7 @@ private slots:
     void offersEveryToolkitWidgetUnderItsLibrary();
     void createsTheRealWidgetInTheToolkitLook_data();
     void createsTheRealWidgetInTheToolkitLook();
+    void newInstancesTakeTheirDefaults();
     void disclosureContentIsTheDesignerPage();
     void formsNameOfferedClassesAndHeaders();
     void formsLoadRealToolkitWidgets();
@@ -265,6 +267,41 @@ void tst_DesignerPlugin::createsTheRealWidgetInTheToolkitLook()
     QCOMPARE(widget->parentWidget(), &parent);
     QCOMPARE(widget->metaObject(), expected.metaObject);
     QCOMPARE(widget->styleSheet(), VNStyleSheet::styleSheet());
+}
+
+// What Designer makes of the default markup of a new instance, as uic and the form loader do.
+void tst_DesignerPlugin::newInstancesTakeTheirDefaults()
+{
+    QUiLoader loader;
+    loader.clearPluginPaths();
+    loader.addPluginPath(QFileInfo(QStringLiteral(TWC_DESIGNER_PLUGIN_FILE)).absolutePath());
+    static QStringList warnings;
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
+            if (type != QtDebugMsg)
+                warnings << message;
+        });
+    QWidget form;
+    QMap<QString, QWidget*> instances;
+    for (QDesignerCustomWidgetInterface* candidate : m_offers) {
+        QBuffer markup;
+        markup.setData(candidate->domXml().toUtf8());
+        instances.insert(candidate->name(), loader.load(&markup, &form));
+    }
+    qInstallMessageHandler(previous);
+    QCOMPARE(warnings, QStringList());
+    for (auto it = instances.cbegin(); it != instances.cend(); ++it) {
+        QVERIFY2(it.value(), qPrintable(it.key()));
+        QCOMPARE(QLatin1String(it.value()->metaObject()->className()), it.key());
+    }
+    QCOMPARE(qobject_cast<VNLabel*>(instances["VNLabel"])->text(), QStringLiteral("TextLabel"));
+    QCOMPARE(qobject_cast<VNSlider*>(instances["VNSlider"])->orientation(), Qt::Horizontal);
+    QCOMPARE(qobject_cast<VNInfoArea*>(instances["VNInfoArea"])->iconType(), VNInfoArea::Info);
+    QCOMPARE(qobject_cast<VNDisplayNeededInput*>(instances["VNDisplayNeededInput"])->needed(), 3);
+    QCOMPARE(qobject_cast<VNTabWidget*>(instances["VNTabWidget"])->count(), 2);
+    auto* disclosure = qobject_cast<VNProgressiveDisclosure*>(instances["VNProgressiveDisclosure"]);
+    QCOMPARE(disclosure->getWidgetCaption(), QStringLiteral("Caption"));
+    QCOMPARE(disclosure->contentWidget()->objectName(), QStringLiteral("ProgressiveDisclosureContainer"));
 }
 
 void tst_DesignerPlugin::disclosureContentIsTheDesignerPage()
