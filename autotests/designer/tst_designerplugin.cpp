@@ -145,6 +145,7 @@ QStringList collectionForms()
 struct FormEntries
 {
     QMap<QString, QString> includes;                // custom class -> header
+    QMap<QString, QString> bases;                   // custom class -> the class it extends
     QList<QPair<QString, QString>> customInstances; // (class, object name)
 };
 
@@ -164,6 +165,8 @@ FormEntries readForm(const QString& path)
             instances.append({xml.attributes().value("class").toString(), xml.attributes().value("name").toString()});
         else if (xml.name() == QLatin1String("class"))
             customClass = xml.readElementText();
+        else if (xml.name() == QLatin1String("extends"))
+            entries.bases.insert(customClass, xml.readElementText());
         else if (xml.name() == QLatin1String("header"))
             entries.includes.insert(customClass, xml.readElementText());
     }
@@ -344,6 +347,10 @@ void tst_DesignerPlugin::formsNameOfferedClassesAndHeaders()
             QDesignerCustomWidgetInterface* candidate = offer(it.key());
             QVERIFY2(candidate, qPrintable(form + ": " + it.key() + " is not offered"));
             QVERIFY2(candidate->includeFile() == it.value(), qPrintable(form + ": " + it.key()));
+            // uic calls the base class's setters, so it must be one.
+            QWidget parent;
+            QVERIFY2(candidate->createWidget(&parent)->inherits(qPrintable(entries.bases.value(it.key()))),
+                     qPrintable(form + ": " + it.key() + " extends " + entries.bases.value(it.key())));
         }
     }
 }
