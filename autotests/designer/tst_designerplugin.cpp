@@ -2,57 +2,14 @@
 // library's group with the header forms include, created as the real toolkit class in the
 // toolkit's look, and every form of the collection loading real toolkit widgets through it.
 
-#include <ColorDisplay.h>
-#include <VNActionsBar.h>
-#include <VNAnimatedOPTabBar.h>
-#include <VNBarChart.h>
-#include <VNButton.h>
-#include <VNCheckBox.h>
-#include <VNClearLineEdit.h>
-#include <VNComboBoxDoubleInput.h>
-#include <VNContainerListControl.h>
-#include <VNCurveInputControl.h>
-#include <VNCustomMenuButton.h>
-#include <VNDendrogramWidget.h>
-#include <VNDisplayNeededInput.h>
-#include <VNDoubleSpinBox.h>
-#include <VNElementNavigationBar.h>
-#include <VNElidedLabel.h>
-#include <VNFileMenuButton.h>
-#include <VNFilterComboBox.h>
-#include <VNFilterListView.h>
-#include <VNGroupableComboBox.h>
-#include <VNInfoArea.h>
-#include <VNLabel.h>
-#include <VNListToolBar.h>
-#include <VNListWidget.h>
-#include <VNModuleNavigation.h>
-#include <VNMultiProgressBar.h>
-#include <VNProgressiveDisclosureBtn.h>
-#include <VNPushButton.h>
-#include <VNRadioButton.h>
-#include <VNResizeableDisclosure.h>
-#include <VNResultSwitcher.h>
-#include <VNSeparator.h>
-#include <VNSlider.h>
-#include <VNSlidingCheckBox.h>
-#include <VNStackControllerWidget.h>
+#include <VNProgressiveDisclosure.h>
 #include <VNStyleSheet.h>
-#include <VNTabBar.h>
-#include <VNTabWidget.h>
-#include <VNTableView.h>
-#include <VNTableWidget.h>
-#include <VNTaskBar.h>
-#include <VNToolTipButton.h>
-#include <VNTreeView.h>
-#include <VNTwinPushButton.h>
-#include <VNValueEdit.h>
-#include <VNViewSwitcher.h>
 
 #include <QBuffer>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QPluginLoader>
+#include <QTabWidget>
 #include <QUiLoader>
 #include <QXmlStreamReader>
 #include <QtDesigner/QDesignerContainerExtension>
@@ -63,71 +20,62 @@
 
 namespace {
 
-struct Offer
-{
-    const QMetaObject* metaObject;
-    QString include;
-    bool container;
+// Every toolkit widget a form can hold, with the header uic output must include.
+const QMap<QString, QString> expectedIncludes = {
+    {"VNButton", "VNButton.h"},
+    {"VNPushButton", "VNPushButton.h"},
+    {"VNTwinPushButton", "VNTwinPushButton.h"},
+    {"VNToolTipButton", "VNToolTipButton.h"},
+    {"VNCustomMenuButton", "VNCustomMenuButton.h"},
+    {"VNFileMenuButton", "VNFileMenuButton.h"},
+    {"VNCurveInputControl", "VNCurveInputControl.h"},
+    {"VNProgressiveDisclosureBtn", "VNProgressiveDisclosureBtn.h"},
+    {"VNLineEdit", "VNLineEdit.h"},
+    {"VNClearLineEdit", "VNClearLineEdit.h"},
+    {"VNValueEdit", "VNValueEdit.h"},
+    {"VNDoubleSpinBox", "VNDoubleSpinBox.h"},
+    {"VNSlider", "VNSlider.h"},
+    {"VNCheckBox", "VNCheckBox.h"},
+    {"VNSlidingCheckBox", "VNSlidingCheckBox.h"},
+    {"VNRadioButton", "VNRadioButton.h"},
+    {"VNComboBox", "VNComboBox.h"},
+    {"VNComboBoxDoubleInput", "VNComboBoxDoubleInput.h"},
+    {"VNFilterComboBox", "VNFilterComboBox.h"},
+    {"VNGroupableComboBox", "VNGroupableComboBox.h"},
+    {"VNLabel", "VNLabel.h"},
+    {"VNElidedLabel", "VNElidedLabel.h"},
+    {"VNSeparator", "VNSeparator.h"},
+    {"VNInfoArea", "VNInfoArea.h"},
+    {"ColorDisplay", "ColorDisplay.h"},
+    {"VNBarChart", "VNBarChart.h"},
+    {"VNMultiProgressBar", "VNMultiProgressBar.h"},
+    {"VNDisplayNeededInput", "VNDisplayNeededInput.h"},
+    {"VNTableView", "VNTableView.h"},
+    {"VNTableWidget", "VNTableWidget.h"},
+    {"VNTreeView", "VNTreeView.h"},
+    {"VNDragTreeWidget", "VNDragTreeWidget.h"},
+    {"Varnis::VNDendrogramWidget", "VNDendrogramWidget.h"},
+    {"VNListWidget", "VNListWidget.h"},
+    {"VNFilterListView", "VNFilterListView.h"},
+    {"VNContainerListControl", "VNContainerListControl.h"},
+    {"VNStackControllerWidget", "VNStackControllerWidget.h"},
+    {"VNTabBar", "VNTabBar.h"},
+    {"VNAnimatedTabBar", "VNAnimatedTabBar.h"},
+    {"VNAnimatedOPTabBar", "VNAnimatedOPTabBar.h"},
+    {"VNModuleNavigation", "VNModuleNavigation.h"},
+    {"VNResultSwitcher", "VNResultSwitcher.h"},
+    {"VNElementNavigationBar", "VNElementNavigationBar.h"},
+    {"VNViewSwitcher", "VNViewSwitcher.h"},
+    {"VNTaskBar", "VNTaskBar.h"},
+    {"VNActionsBar", "VNActionsBar.h"},
+    {"VNListToolBar", "VNListToolBar.h"},
+    {"VNProgressiveDisclosure", "VNProgressiveDisclosure.h"},
+    {"VNResizeableDisclosure", "VNResizeableDisclosure.h"},
+    {"VNTabWidget", "VNTabWidget.h"},
 };
 
-// Every toolkit widget a form can hold, with the header uic output must include.
-const QMap<QString, Offer>& expectedOffers()
-{
-    static const QMap<QString, Offer> offers = {
-        {"VNButton", {&VNButton::staticMetaObject, "VNButton.h", false}},
-        {"VNPushButton", {&VNPushButton::staticMetaObject, "VNPushButton.h", false}},
-        {"VNTwinPushButton", {&VNTwinPushButton::staticMetaObject, "VNTwinPushButton.h", false}},
-        {"VNToolTipButton", {&VNToolTipButton::staticMetaObject, "VNToolTipButton.h", false}},
-        {"VNCustomMenuButton", {&VNCustomMenuButton::staticMetaObject, "VNCustomMenuButton.h", false}},
-        {"VNFileMenuButton", {&VNFileMenuButton::staticMetaObject, "VNFileMenuButton.h", false}},
-        {"VNCurveInputControl", {&VNCurveInputControl::staticMetaObject, "VNCurveInputControl.h", false}},
-        {"VNProgressiveDisclosureBtn",
-         {&VNProgressiveDisclosureBtn::staticMetaObject, "VNProgressiveDisclosureBtn.h", false}},
-        {"VNLineEdit", {&VNLineEdit::staticMetaObject, "VNLineEdit.h", false}},
-        {"VNClearLineEdit", {&VNClearLineEdit::staticMetaObject, "VNClearLineEdit.h", false}},
-        {"VNValueEdit", {&VNValueEdit::staticMetaObject, "VNValueEdit.h", false}},
-        {"VNDoubleSpinBox", {&VNDoubleSpinBox::staticMetaObject, "VNDoubleSpinBox.h", false}},
-        {"VNSlider", {&VNSlider::staticMetaObject, "VNSlider.h", false}},
-        {"VNCheckBox", {&VNCheckBox::staticMetaObject, "VNCheckBox.h", false}},
-        {"VNSlidingCheckBox", {&VNSlidingCheckBox::staticMetaObject, "VNSlidingCheckBox.h", false}},
-        {"VNRadioButton", {&VNRadioButton::staticMetaObject, "VNRadioButton.h", false}},
-        {"VNComboBox", {&VNComboBox::staticMetaObject, "VNComboBox.h", false}},
-        {"VNComboBoxDoubleInput", {&VNComboBoxDoubleInput::staticMetaObject, "VNComboBoxDoubleInput.h", false}},
-        {"VNFilterComboBox", {&VNFilterComboBox::staticMetaObject, "VNFilterComboBox.h", false}},
-        {"VNGroupableComboBox", {&VNGroupableComboBox::staticMetaObject, "VNGroupableComboBox.h", false}},
-        {"VNLabel", {&VNLabel::staticMetaObject, "VNLabel.h", false}},
-        {"VNElidedLabel", {&VNElidedLabel::staticMetaObject, "VNElidedLabel.h", false}},
-        {"VNSeparator", {&VNSeparator::staticMetaObject, "VNSeparator.h", false}},
-        {"VNInfoArea", {&VNInfoArea::staticMetaObject, "VNInfoArea.h", false}},
-        {"ColorDisplay", {&ColorDisplay::staticMetaObject, "ColorDisplay.h", false}},
-        {"VNBarChart", {&VNBarChart::staticMetaObject, "VNBarChart.h", false}},
-        {"VNMultiProgressBar", {&VNMultiProgressBar::staticMetaObject, "VNMultiProgressBar.h", false}},
-        {"VNDisplayNeededInput", {&VNDisplayNeededInput::staticMetaObject, "VNDisplayNeededInput.h", false}},
-        {"VNTableView", {&VNTableView::staticMetaObject, "VNTableView.h", false}},
-        {"VNTableWidget", {&VNTableWidget::staticMetaObject, "VNTableWidget.h", false}},
-        {"VNTreeView", {&VNTreeView::staticMetaObject, "VNTreeView.h", false}},
-        {"VNDragTreeWidget", {&VNDragTreeWidget::staticMetaObject, "VNDragTreeWidget.h", false}},
-        {"Varnis::VNDendrogramWidget", {&Varnis::VNDendrogramWidget::staticMetaObject, "VNDendrogramWidget.h", false}},
-        {"VNListWidget", {&VNListWidget::staticMetaObject, "VNListWidget.h", false}},
-        {"VNFilterListView", {&VNFilterListView::staticMetaObject, "VNFilterListView.h", false}},
-        {"VNContainerListControl", {&VNContainerListControl::staticMetaObject, "VNContainerListControl.h", false}},
-        {"VNStackControllerWidget", {&VNStackControllerWidget::staticMetaObject, "VNStackControllerWidget.h", false}},
-        {"VNTabBar", {&VNTabBar::staticMetaObject, "VNTabBar.h", false}},
-        {"VNAnimatedTabBar", {&VNAnimatedTabBar::staticMetaObject, "VNAnimatedTabBar.h", false}},
-        {"VNAnimatedOPTabBar", {&VNAnimatedOPTabBar::staticMetaObject, "VNAnimatedOPTabBar.h", false}},
-        {"VNModuleNavigation", {&VNModuleNavigation::staticMetaObject, "VNModuleNavigation.h", false}},
-        {"VNResultSwitcher", {&VNResultSwitcher::staticMetaObject, "VNResultSwitcher.h", false}},
-        {"VNElementNavigationBar", {&VNElementNavigationBar::staticMetaObject, "VNElementNavigationBar.h", false}},
-        {"VNViewSwitcher", {&VNViewSwitcher::staticMetaObject, "VNViewSwitcher.h", false}},
-        {"VNTaskBar", {&VNTaskBar::staticMetaObject, "VNTaskBar.h", false}},
-        {"VNActionsBar", {&VNActionsBar::staticMetaObject, "VNActionsBar.h", false}},
-        {"VNListToolBar", {&VNListToolBar::staticMetaObject, "VNListToolBar.h", true}},
-        {"VNProgressiveDisclosure", {&VNProgressiveDisclosure::staticMetaObject, "VNProgressiveDisclosure.h", true}},
-        {"VNResizeableDisclosure", {&VNResizeableDisclosure::staticMetaObject, "VNResizeableDisclosure.h", true}},
-        {"VNTabWidget", {&VNTabWidget::staticMetaObject, "VNTabWidget.h", true}},
-    };
-    return offers;
-}
+// The widgets that hold the widgets a designer drops on them.
+const QSet<QString> containers = {"VNListToolBar", "VNProgressiveDisclosure", "VNResizeableDisclosure", "VNTabWidget"};
 
 QStringList collectionForms()
 {
@@ -177,6 +125,12 @@ FormEntries readForm(const QString& path)
     return entries;
 }
 
+void usePlugin(QUiLoader& loader)
+{
+    loader.clearPluginPaths();
+    loader.addPluginPath(QFileInfo(QStringLiteral(TWC_DESIGNER_PLUGIN_FILE)).absolutePath());
+}
+
 // The part of Designer's core that holds the extensions of plugins.
 class DesignerCore : public QDesignerFormEditorInterface
 {
@@ -198,7 +152,6 @@ private slots:
     void createsTheRealWidgetInTheToolkitLook();
     void newInstancesTakeTheirDefaults();
     void disclosureContentIsTheDesignerPage();
-    void formsNameOfferedClassesAndHeaders();
     void formsLoadRealToolkitWidgets();
 
 private:
@@ -233,7 +186,7 @@ void tst_DesignerPlugin::offersEveryToolkitWidgetUnderItsLibrary()
         names << candidate->name();
         groups << candidate->group();
     }
-    QStringList expected = expectedOffers().keys();
+    QStringList expected = expectedIncludes.keys();
     names.sort();
     QCOMPARE(names, expected);
     QCOMPARE(groups, QSet<QString>{QStringLiteral("VN Widgets")});
@@ -242,7 +195,7 @@ void tst_DesignerPlugin::offersEveryToolkitWidgetUnderItsLibrary()
 void tst_DesignerPlugin::createsTheRealWidgetInTheToolkitLook_data()
 {
     QTest::addColumn<QString>("className");
-    for (const QString& className : expectedOffers().keys())
+    for (const QString& className : expectedIncludes.keys())
         QTest::newRow(qPrintable(className)) << className;
 }
 
@@ -251,24 +204,16 @@ void tst_DesignerPlugin::createsTheRealWidgetInTheToolkitLook()
     QFETCH(QString, className);
     QDesignerCustomWidgetInterface* candidate = offer(className);
     QVERIFY(candidate);
-    const Offer& expected = expectedOffers()[className];
-    QCOMPARE(candidate->includeFile(), expected.include);
-    QCOMPARE(candidate->isContainer(), expected.container);
+    QCOMPARE(candidate->includeFile(), expectedIncludes[className]);
+    QCOMPARE(candidate->isContainer(), containers.contains(className));
     QVERIFY(candidate->icon().availableSizes().contains(QSize(16, 16)));
     QVERIFY(candidate->toolTip().contains(className));
     QVERIFY(candidate->whatsThis().startsWith(className + QLatin1String(": ")));
 
-    QXmlStreamReader dom(candidate->domXml());
-    QVERIFY(dom.readNextStartElement() && dom.name() == QLatin1String("ui"));
-    QVERIFY(dom.readNextStartElement() && dom.name() == QLatin1String("widget"));
-    QCOMPARE(dom.attributes().value("class").toString(), className);
-    QVERIFY(!dom.attributes().value("name").isEmpty());
-
     QWidget parent;
     QWidget* widget = candidate->createWidget(&parent);
-    QVERIFY(widget);
     QCOMPARE(widget->parentWidget(), &parent);
-    QCOMPARE(widget->metaObject(), expected.metaObject);
+    QCOMPARE(QLatin1String(widget->metaObject()->className()), className);
     QCOMPARE(widget->styleSheet(), VNStyleSheet::styleSheet());
 }
 
@@ -276,8 +221,7 @@ void tst_DesignerPlugin::createsTheRealWidgetInTheToolkitLook()
 void tst_DesignerPlugin::newInstancesTakeTheirDefaults()
 {
     QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QFileInfo(QStringLiteral(TWC_DESIGNER_PLUGIN_FILE)).absolutePath());
+    usePlugin(loader);
     static QStringList warnings;
     const QtMessageHandler previous =
         qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& message) {
@@ -297,11 +241,11 @@ void tst_DesignerPlugin::newInstancesTakeTheirDefaults()
         QVERIFY2(it.value(), qPrintable(it.key()));
         QCOMPARE(QLatin1String(it.value()->metaObject()->className()), it.key());
     }
-    QCOMPARE(qobject_cast<VNLabel*>(instances["VNLabel"])->text(), QStringLiteral("TextLabel"));
-    QCOMPARE(qobject_cast<VNSlider*>(instances["VNSlider"])->orientation(), Qt::Horizontal);
-    QCOMPARE(qobject_cast<VNInfoArea*>(instances["VNInfoArea"])->iconType(), VNInfoArea::Info);
-    QCOMPARE(qobject_cast<VNDisplayNeededInput*>(instances["VNDisplayNeededInput"])->needed(), 3);
-    QCOMPARE(qobject_cast<VNTabWidget*>(instances["VNTabWidget"])->count(), 2);
+    QCOMPARE(instances["VNLabel"]->property("text").toString(), QStringLiteral("TextLabel"));
+    QCOMPARE(instances["VNSlider"]->property("orientation").toInt(), int(Qt::Horizontal));
+    QCOMPARE(instances["VNInfoArea"]->property("iconType").toInt(), 1); // Info
+    QCOMPARE(instances["VNDisplayNeededInput"]->property("needed").toInt(), 3);
+    QCOMPARE(qobject_cast<QTabWidget*>(instances["VNTabWidget"])->count(), 2);
     auto* disclosure = qobject_cast<VNProgressiveDisclosure*>(instances["VNProgressiveDisclosure"]);
     QCOMPARE(disclosure->getWidgetCaption(), QStringLiteral("Caption"));
     QCOMPARE(disclosure->contentWidget()->objectName(), QStringLiteral("ProgressiveDisclosureContainer"));
@@ -337,41 +281,34 @@ void tst_DesignerPlugin::disclosureContentIsTheDesignerPage()
     QVERIFY(content->mapTo(disclosure, QPoint(0, 0)).y() > 0);
 }
 
-void tst_DesignerPlugin::formsNameOfferedClassesAndHeaders()
-{
-    const QStringList forms = collectionForms();
-    QVERIFY(forms.size() > 30);
-    for (const QString& form : forms) {
-        const FormEntries entries = readForm(form);
-        for (auto it = entries.includes.cbegin(); it != entries.includes.cend(); ++it) {
-            QDesignerCustomWidgetInterface* candidate = offer(it.key());
-            QVERIFY2(candidate, qPrintable(form + ": " + it.key() + " is not offered"));
-            QVERIFY2(candidate->includeFile() == it.value(), qPrintable(form + ": " + it.key()));
-            // uic calls the base class's setters, so it must be one.
-            QWidget parent;
-            QVERIFY2(candidate->createWidget(&parent)->inherits(qPrintable(entries.bases.value(it.key()))),
-                     qPrintable(form + ": " + it.key() + " extends " + entries.bases.value(it.key())));
-        }
-    }
-}
-
+// Designers open the collection's forms with the plugin, and uic builds them.
 void tst_DesignerPlugin::formsLoadRealToolkitWidgets()
 {
     QUiLoader loader;
-    loader.clearPluginPaths();
-    loader.addPluginPath(QFileInfo(QStringLiteral(TWC_DESIGNER_PLUGIN_FILE)).absolutePath());
+    usePlugin(loader);
+    const QStringList forms = collectionForms();
+    QVERIFY(forms.size() > 30);
     int toolkitWidgets = 0;
-    for (const QString& path : collectionForms()) {
+    for (const QString& path : forms) {
+        const FormEntries entries = readForm(path);
+        for (auto it = entries.includes.cbegin(); it != entries.includes.cend(); ++it) {
+            QDesignerCustomWidgetInterface* candidate = offer(it.key());
+            QVERIFY2(candidate, qPrintable(path + ": " + it.key() + " is not offered"));
+            QVERIFY2(candidate->includeFile() == it.value(), qPrintable(path + ": " + it.key()));
+            // uic calls the base class's setters, so it must be one.
+            QWidget parent;
+            QVERIFY2(candidate->createWidget(&parent)->inherits(qPrintable(entries.bases.value(it.key()))),
+                     qPrintable(path + ": " + it.key() + " extends " + entries.bases.value(it.key())));
+        }
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QScopedPointer<QWidget> form(loader.load(&file));
         QVERIFY2(form, qPrintable(path + ": " + loader.errorString()));
-        for (const auto& instance : readForm(path).customInstances) {
+        for (const auto& instance : entries.customInstances) {
             QWidget* widget =
                 form->objectName() == instance.second ? form.data() : form->findChild<QWidget*>(instance.second);
-            QVERIFY2(widget, qPrintable(path + ": " + instance.second));
-            QVERIFY2(QLatin1String(widget->metaObject()->className()) == instance.first,
-                     qPrintable(path + ": " + instance.second + " is a " + widget->metaObject()->className()));
+            QVERIFY2(widget && QLatin1String(widget->metaObject()->className()) == instance.first,
+                     qPrintable(path + ": " + instance.second));
             ++toolkitWidgets;
         }
     }
