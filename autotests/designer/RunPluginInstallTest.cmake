@@ -1,0 +1,20 @@
+# Installs the toolkit and the Designer plugin into a scratch prefix and checks that the installed
+# plugin finds the installed toolkit libraries on its own, as Designer loads it from there.
+file(REMOVE_RECURSE "${WORK_DIR}")
+set(prefix "${WORK_DIR}/prefix")
+foreach(folder toolkit designer)
+    execute_process(COMMAND "${CMAKE_COMMAND}" --install "${BINARY_DIR}/${folder}" --prefix "${prefix}"
+        RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0)
+        message(FATAL_ERROR "installing ${folder} failed:\n${output}")
+    endif()
+endforeach()
+set(plugin "${prefix}/${PLUGIN_INSTALL_DIR}/${PLUGIN_FILE_NAME}")
+if(IS_ABSOLUTE "${PLUGIN_INSTALL_DIR}" OR NOT EXISTS "${plugin}")
+    message(FATAL_ERROR "the plugin is not installed below the prefix: ${plugin}")
+endif()
+execute_process(COMMAND ldd "${plugin}" OUTPUT_VARIABLE libraries ERROR_VARIABLE libraries)
+if(libraries MATCHES "not found" OR NOT libraries MATCHES "libVNWidgets[^\n]*=> ${prefix}/")
+    message(FATAL_ERROR "the installed plugin does not find the installed toolkit:\n${libraries}")
+endif()
+message(STATUS "installed plugin: ${plugin}")
