@@ -1,4 +1,5 @@
 #include "VNSlider.h"
+#include "VNStatusPainter_p.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -344,6 +345,9 @@ void VNSlider::paintEvent(QPaintEvent*)
     else
         paintAdmissibleHandles(painter);
     paintValueHandle(painter);
+    // A slider is a plain Qt widget to the status logic: its status comes in the dynamic property.
+    painter.resetTransform();
+    VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
 }
 
 void VNSlider::paintRelevantRange(QPainter& painter) const
