@@ -24,6 +24,7 @@
 #include "TestProgressComposition.h"
 #include "TestRegExp.h"
 #include "TestSVG.h"
+#include "TestSquish.h"
 #include "TestStringReducer.h"
 #include "TestTreeDelegates.h"
 #include "TestTreeItemDelegate.h"
@@ -218,7 +219,10 @@ void TestWidgetCollection::on_m_testLayouts_clicked()
     showCached(m_testLayoutExample, this);
 }
 
-void TestWidgetCollection::on_m_testSquish_clicked() {}
+void TestWidgetCollection::on_m_testSquish_clicked()
+{
+    showCached(m_testSquish, this);
+}
 
 void TestWidgetCollection::on_m_QtTraining_clicked()
 {
