@@ -402,6 +402,14 @@ void TestSquishTest::compareTogglesOnlyItsBit()
         QCOMPARE(firstMismatch(below, 0x20, 0, 0), QString());
         QCOMPARE(stateLabel(dialog), firstToolkitText(below));
     }
+    // The label follows the first toolkit widget of the page.
+    const QList<QWidget*> below = showPage(dialog, QStringLiteral("tabInOut"))->findChildren<QWidget*>();
+    auto* first = dynamic_cast<VNWidgetInterface*>(*std::find_if(below.begin(), below.end(), [](QWidget* widget) {
+        return dynamic_cast<VNWidgetInterface*>(widget) != nullptr;
+    }));
+    first->setWidgetStatus(VNWidgetStatus::userEdit);
+    compare->click();
+    QCOMPARE(stateLabel(dialog), QStringLiteral("userEdit | compareDifferent"));
 }
 
 void TestSquishTest::disableAndReadOnlyActOnCurrentPage()
