@@ -489,7 +489,8 @@ void TestSquishTest::wordsLookDistinct_data()
         {"tabDoubleSpinbox", "vnDoubleSpinBox_37"}, {"tabNavigation", ":VNTaskBar"},
         {"tabNavigation", ":VNAnimatedTabBar"}, {"tabNavigation", "vnTabWidget"},
         {"tabNavigation", "elementNavigationBar"}, {"tabNavigation", "bgViewswitcher"},
-        {"tabDisclosures", "progressiveDisclosure"}, {"tabMisc", "dateEdit"}, {"tabMisc", "m_vnSlider"},
+        {"tabDisclosures", "progressiveDisclosure"}, {"tabDisclosures", "progressiveDisclosure_closedHover"},
+        {"tabMisc", "dateEdit"}, {"tabMisc", "m_vnSlider"},
         {"tabMisc", "m_resultSwitcher"}, {"tabMisc", "m_vnCustomMenuButton"}, {"tabMisc", "m_actionBar"},
         {"tabMisc", "m_selectStep_cb"}};
     // clang-format on

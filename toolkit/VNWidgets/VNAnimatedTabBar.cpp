@@ -404,7 +404,7 @@ VNAnimatedTabBar::TabLook VNAnimatedTabBar::tabLook(int index) const
     if (statusFrame.isValid()) {
         look.fill = VNStatusPainter::fillColor(tab.status);
         look.frame = statusFrame;
-        look.text = tab.dark ? look.text : statusFrame.darker(150);
+        look.text = statusFrame.darker(150); // a dark tab takes the light status fill, so dark text too
     }
     if (!isEnabled())
         look.text = palette().color(QPalette::Disabled, QPalette::WindowText);
