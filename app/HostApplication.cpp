@@ -20,6 +20,7 @@
 #include <QPixmap>
 #include <QPushButton>
 #include <QSet>
+#include <QTabWidget>
 #include <QTemporaryFile>
 #include <QTextStream>
 #include <QTimer>
@@ -34,6 +35,23 @@ const int modalWindowDelayMs = 200;
 // Built from the collection's own texts and embedded into the library when lupdate and lrelease
 // were found at build time.
 const QString mockTranslation = QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm");
+
+// Windows that show one gallery per tab: the launcher button and the object name of the tab
+// widget whose every page gets a screenshot of its own.
+const struct
+{
+    const char* button;
+    const char* tabWidget;
+} tabbedWindows[] = {{"m_testSquish", "m_tabWidget"}};
+
+QTabWidget* galleryTabs(const QString& buttonName, QWidget* window)
+{
+    for (const auto& entry : tabbedWindows) {
+        if (buttonName == QLatin1String(entry.button))
+            return window->findChild<QTabWidget*>(QLatin1String(entry.tabWidget));
+    }
+    return nullptr;
+}
 
 QTextStream& out()
 {
@@ -232,6 +250,24 @@ bool HostApplication::saveScreenshot(const QDir& directory, const QString& name,
     return true;
 }
 
+bool HostApplication::saveTabScreenshots(const QDir& directory, const QString& name, const QString& caption,
+                                         QWidget* window, QTabWidget* tabs, ContactSheet& sheet) const
+{
+    const int shownTab = tabs->currentIndex();
+    bool saved = true;
+    for (int i = 0; i < tabs->count() && saved; ++i) {
+        tabs->setCurrentIndex(i);
+        QApplication::processEvents();
+        const QString tabShot = QStringLiteral("%1-%2").arg(name, tabs->widget(i)->objectName());
+        sheet.addShot(name, QStringLiteral("%1: %2").arg(caption, tabs->tabText(i)), tabShot + QStringLiteral(".png"));
+        saved = saveScreenshot(directory, tabShot, window);
+    }
+    // The window goes on as it was, so that later windows (the loupe) see it unchanged.
+    tabs->setCurrentIndex(shownTab);
+    QApplication::processEvents();
+    return saved;
+}
+
 void HostApplication::useReproducibleLook()
 {
     const int id = QFontDatabase::addApplicationFont(reproducibleFontFile);
@@ -302,8 +338,12 @@ int HostApplication::takeScreenshots(const QString& directory)
     const bool saved = visitEveryWindow([&](const QPushButton* button, QWidget* window, int index) {
         const QString name = button ? button->objectName() : m_panel->objectName();
         const QString shotName = index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1);
-        sheet.addShot(name, button ? button->text() : m_panel->windowTitle(), shotName + QStringLiteral(".png"));
-        return saveScreenshot(dir, shotName, window);
+        const QString caption = button ? button->text() : m_panel->windowTitle();
+        sheet.addShot(name, caption, shotName + QStringLiteral(".png"));
+        if (!saveScreenshot(dir, shotName, window))
+            return false;
+        QTabWidget* tabs = galleryTabs(name, window);
+        return !tabs || saveTabScreenshots(dir, shotName, caption, window, tabs, sheet);
     });
     if (!saved)
         return 1;

@@ -6,7 +6,9 @@
 #include <memory>
 
 class QDir;
+class ContactSheet;
 class QPushButton;
+class QTabWidget;
 class QTranslator;
 class QWidget;
 class TestWidgetCollection;
@@ -42,6 +44,9 @@ private:
     int takeScreenshots(const QString& directory);
     int writeObjectMap(const QString& path);
     bool saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const;
+    // Saves a window once per page of its tab widget, as <name>-<page object name>.png.
+    bool saveTabScreenshots(const QDir& directory, const QString& name, const QString& caption, QWidget* window,
+                            QTabWidget* tabs, ContactSheet& sheet) const;
     void useReproducibleLook();
     bool installMockTranslation();
 

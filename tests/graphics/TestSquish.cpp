@@ -15,6 +15,7 @@
 #include <VNContainerWidgetInterface.h>
 #include <VNFileMenuButton.h>
 #include <VNFilterListView.h>
+#include <VNLabel.h>
 #include <VNListWidget.h>
 #include <VNMenu.h>
 #include <VNMessageBox.h>
@@ -290,6 +291,7 @@ void TestSquish::setUpAnimatedTabBars()
         }
         ui.animatedTabBarLayout->addWidget(reduced);
     }
+    ui.animatedTabBarLayout->addStretch();
 }
 
 void TestSquish::setUpNavigationBars()
@@ -333,6 +335,9 @@ void TestSquish::setUpDisclosures()
         if (auto* button = disclosure->findChild<VNProgressiveDisclosureBtn*>())
             button->setAttribute(Qt::WA_UnderMouse, true);
     }
+    auto* resizeLayout = new QVBoxLayout(ui.ResizableDisclosureContainer);
+    resizeLayout->addWidget(
+        new VNLabel(tr("Drag the handle below to change the height."), ui.ResizableDisclosureContainer));
     ui.progressiveDisclosure_VisibilitySwitch->setOptionalCheckVisible(true);
     ui.progressiveDisclosure_ClosedVisibility->setOptionalCheckVisible(true);
     ui.progressiveDisclosure_ClosedVisibility->getOptionalCheckBox()->setChecked(true);

@@ -1,4 +1,5 @@
 #include "VNSlider.h"
+
 #include "VNStatusPainter_p.h"
 
 #include <QMouseEvent>
@@ -345,7 +346,8 @@ void VNSlider::paintEvent(QPaintEvent*)
     else
         paintAdmissibleHandles(painter);
     paintValueHandle(painter);
-    // A slider is a plain Qt widget to the status logic: its status comes in the dynamic property.
+    // The status word arrives as the dynamic property that plain widgets carry; it frames the
+    // whole slider like the status look of a field.
     painter.resetTransform();
     VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
 }

@@ -11,6 +11,8 @@
 // current sublimit, the range the user finds relevant and, on request, a Gaussian curve. As a
 // span slider the admissible range is the span: two full handles with the groove between them
 // filled. All of it follows the orientation and the inverted appearance of the QSlider base.
+// A status word stored with VNWidgetStatus::setStatusProperty() frames the slider in the status
+// colours (and the sigma bar and compare-differs frame), as fields show it.
 class VNWIDGETS_EXPORT VNSlider : public QSlider
 {
     Q_OBJECT
