@@ -375,6 +375,14 @@ void TestSquishTest::familySpotChecks()
         QVERIFY(bar->count() > 1);
         QCOMPARE(int(bar->widgetStatus(0)), int(VNWidgetStatus::standardLocked));
         QCOMPARE(int(bar->widgetStatus(bar->count() - 1)), 0x33000);
+        // On the light status fill even dark tabs write dark text.
+        const QImage look = bar->grab().toImage();
+        bool darkText = false;
+        for (int y = 0; y < look.height(); ++y) {
+            for (int x = 0; x < look.width(); ++x)
+                darkText = darkText || qGray(look.pixel(x, y)) < 90;
+        }
+        QVERIFY(darkText);
     }
     for (const char* name : {"elementNavigationBar", "bgViewswitcher", "vnTabWidget"})
         QCOMPARE(int(statusOf(dialog.findChild<QWidget*>(QLatin1String(name)))), 0x33000);
