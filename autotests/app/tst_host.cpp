@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QProcess>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -90,6 +91,19 @@ void HostTest::screenshots()
     const QString html = QString::fromUtf8(sheet.readAll());
     QVERIFY(html.contains(QStringLiteral("<code>m_QtTraining</code> Qt Training")));
     QVERIFY(html.contains(QStringLiteral("<img src=\"loupe.png\"")));
+    // The status gallery is saved once more per tab, each shot with its own entry.
+    const QImage gallery(dir.filePath(QStringLiteral("m_testSquish.png")));
+    QSet<QByteArray> tabShots;
+    for (const char* tab : {"tabInOut", "tabDoubleSpinbox", "tabNavigation", "tabDisclosures", "tabMisc", "tabTables",
+                            "tabMasterDetail"}) {
+        const QString file = QStringLiteral("m_testSquish-%1.png").arg(QLatin1String(tab));
+        const QImage shot(dir.filePath(file));
+        QCOMPARE(shot.size(), gallery.size());
+        tabShots.insert(QByteArray(reinterpret_cast<const char*>(shot.constBits()), int(shot.sizeInBytes())));
+        QVERIFY2(html.contains(QStringLiteral("<img src=\"%1\"").arg(file)), tab);
+    }
+    QCOMPARE(tabShots.size(), 7);
+    QVERIFY(html.contains(QStringLiteral("<code>m_testSquish</code> Squish: Master / Detail")));
 }
 
 void HostTest::unwritableScreenshotDirectory()
