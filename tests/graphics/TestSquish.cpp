@@ -132,6 +132,16 @@ void TestSquish::setUpButtonStates()
 
 void TestSquish::setUpMenus()
 {
+    setUpButtonMenus();
+    setUpCheckBoxGroupMenu();
+    setUpAdvancedMenus();
+    connect(ui.m_messageBoxBtn, &QPushButton::clicked, this, [this] {
+        Varnis::VNMessageBox::warning(this, tr("Warning"), tr("This is a default message box"), QMessageBox::Ok);
+    });
+}
+
+void TestSquish::setUpButtonMenus()
+{
     auto* iconMenu = new VNMenu(ui.m_vnButtonMenuIcons);
     iconMenu->addAction(tr("Action 1"));
     iconMenu->addAction(QIcon(addIcon), tr("Action 2"));
@@ -149,6 +159,14 @@ void TestSquish::setUpMenus()
         button->setMenu(menu);
     }
 
+    auto* importMenu = new VNMenu(ui.m_importLineMB);
+    importMenu->addAction(tr("Import from File..."));
+    importMenu->addAction(tr("Import from Clipboard"));
+    ui.m_importLineMB->setMenu(importMenu);
+}
+
+void TestSquish::setUpCheckBoxGroupMenu()
+{
     auto* columns = new VNCheckBoxGroupMenu(ui.m_checkBoxGroupBtn);
     columns->setupSelectMenu(VNCheckBoxGroupMenu::SelectActions(3));
     const QString group = tr("Columns");
@@ -159,7 +177,10 @@ void TestSquish::setUpMenus()
         box->setChecked(true);
     }
     ui.m_checkBoxGroupBtn->setMenu(columns);
+}
 
+void TestSquish::setUpAdvancedMenus()
+{
     auto* listMenu = new VNAdvancedListMenu(ui.m_advancedListBtn);
     listMenu->setDefaultIconSize(QSize(48, 48));
     listMenu->addControl(new QAction(QIcon(QStringLiteral(":/Icons/Modify/add_trim_24.svg")), tr("Trim"), listMenu),
@@ -202,15 +223,6 @@ void TestSquish::setUpMenus()
         selectMenu->addControlToGroup(action, nesting);
     }
     ui.m_advancedBtnGroup->setMenu(selectMenu);
-
-    auto* importMenu = new VNMenu(ui.m_importLineMB);
-    importMenu->addAction(tr("Import from File..."));
-    importMenu->addAction(tr("Import from Clipboard"));
-    ui.m_importLineMB->setMenu(importMenu);
-
-    connect(ui.m_messageBoxBtn, &QPushButton::clicked, this, [this] {
-        Varnis::VNMessageBox::warning(this, tr("Warning"), tr("This is a default message box"), QMessageBox::Ok);
-    });
 }
 
 void TestSquish::setUpComboBoxes()

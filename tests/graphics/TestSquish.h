@@ -53,6 +53,9 @@ private:
 
     void setUpButtonStates();
     void setUpMenus();
+    void setUpButtonMenus();
+    void setUpCheckBoxGroupMenu();
+    void setUpAdvancedMenus();
     void setUpComboBoxes();
     void setUpSpinBoxes();
     void setUpTaskBar();
