@@ -42,7 +42,7 @@ const Entry entries[] = {
     {"m_testLayoutHelper", "VNLayoutHelper", "TestLayoutHelper"},
     {"m_testDendrogramWidget", "DendrogramTest", "TestDendrogramWidget"},
     {"m_compareIcons", "Compare PNG and SVG Icons", "TestCompareIcons"},
-    {"m_testSquish", "Squish", ""},
+    {"m_testSquish", "Squish", "TestSquish"},
     {"m_testAnimatedTabBar", "Animated Tab Bar (QML)", "TestVNAnimatedTabBar"},
     {"m_testNewAssemblyImport", "VNTreeView for Assembly Import Test", "TestNewAssemblyImport"},
     {"testDisclosure", "VNProgressiveDisclosure", "TestDisclosure"},

@@ -1,5 +1,5 @@
 #include "VNAnimatedTabBar.h"
-#include "VNStatusColors_p.h"
+#include "VNStatusPainter_p.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -400,11 +400,11 @@ VNAnimatedTabBar::TabLook VNAnimatedTabBar::tabLook(int index) const
         look.fill = index == m_current ? darkTabColor.lighter(130) : darkTabColor;
         look.text = Qt::white;
     }
-    const VNStatusColors status = vnStatusColors(tab.status);
-    if (status.isValid()) {
-        look.fill = status.fill;
-        look.frame = status.frame;
-        look.text = tab.dark ? look.text : status.frame.darker(150);
+    const QColor statusFrame = VNStatusPainter::frameColor(tab.status);
+    if (statusFrame.isValid()) {
+        look.fill = VNStatusPainter::fillColor(tab.status);
+        look.frame = statusFrame;
+        look.text = statusFrame.darker(150); // a dark tab takes the light status fill, so dark text too
     }
     if (!isEnabled())
         look.text = palette().color(QPalette::Disabled, QPalette::WindowText);
@@ -425,6 +425,7 @@ void VNAnimatedTabBar::paintEvent(QPaintEvent*)
         painter.setPen(look.frame);
         painter.setBrush(look.fill);
         painter.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
+        VNStatusPainter::paintMarks(painter, r, tab.status);
 
         QRect content = r.adjusted(horizontalPadding, 0, -horizontalPadding / 2, 0);
         if (!tab.icon.isNull()) {

@@ -1,4 +1,5 @@
 #include "VNProgressiveDisclosureBtn.h"
+#include "VNWidgetStatus.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -49,8 +50,17 @@ void VNProgressiveDisclosureBtn::paintEvent(QPaintEvent*)
     style()->drawPrimitive(QStyle::PE_Widget, &option, &painter, this);
     painter.setRenderHint(QPainter::Antialiasing);
     // Scripts set WA_UnderMouse to get the hovered look without moving the mouse.
-    if (testAttribute(Qt::WA_UnderMouse) && isEnabled())
-        painter.fillRect(rect(), m_hoverColor);
+    // Over a status look the hover only tints the inside, so that the status bars and frames stay
+    // as they are.
+    if (testAttribute(Qt::WA_UnderMouse) && isEnabled()) {
+        if (VNWidgetStatus::statusFromProperty(this)) {
+            QColor tint = m_hoverColor;
+            tint.setAlpha(90);
+            painter.fillRect(rect().adjusted(5, 2, -2, -2), tint);
+        } else {
+            painter.fillRect(rect(), m_hoverColor);
+        }
+    }
 
     const QRectF box(2, (height() - arrowBox) / 2.0, arrowBox, arrowBox);
     const QPointF c = box.center();

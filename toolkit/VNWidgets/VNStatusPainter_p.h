@@ -30,6 +30,23 @@ inline QColor frameColor(VNWidgetStatus::StatusFlags flags)
     return colors.value(VNWidgetStatus::lookName(flags));
 }
 
+// The light fill that goes with the frame colour.
+inline QColor fillColor(VNWidgetStatus::StatusFlags flags)
+{
+    static const QHash<QString, QColor> colors = {
+        {QStringLiteral("needInput"), QColor(0xff, 0xd6, 0xd6)},
+        {QStringLiteral("userEdit"), QColor(0xdc, 0xeb, 0xff)},
+        {QStringLiteral("different"), QColor(0xff, 0xf1, 0xb8)},
+        {QStringLiteral("standardDefined"), QColor(0xdf, 0xf2, 0xdf)},
+        {QStringLiteral("standardChanged"), QColor(0xff, 0xe2, 0xc4)},
+        {QStringLiteral("standardLocked"), QColor(0xe4, 0xe4, 0xe4)},
+        {QStringLiteral("standardChangedLocked"), QColor(0xee, 0xd9, 0xc8)},
+        {QStringLiteral("standardDefault"), QColor(0xe0, 0xf0, 0xf8)},
+        {QStringLiteral("standardDefaultChanged"), QColor(0xf1, 0xe0, 0xf5)},
+    };
+    return colors.value(VNWidgetStatus::lookName(flags));
+}
+
 inline QColor sigmaColor(VNWidgetStatus::StatusFlags flags)
 {
     static const QHash<QString, QColor> colors = {
@@ -41,18 +58,13 @@ inline QColor sigmaColor(VNWidgetStatus::StatusFlags flags)
     return colors.value(VNWidgetStatus::sigmaLookName(flags));
 }
 
-// Draws a 2 px frame in the status colour, the 5 px sigma bar on the left edge and the dashed
-// compare-differs frame on top; an undefined status draws nothing.
-inline void paint(QPainter& painter, const QRect& rect, VNWidgetStatus::StatusFlags flags)
+// Draws the 5 px sigma bar on the left edge and the dashed compare-differs frame on top, for
+// widgets that show the main look in their own fill and frame.
+inline void paintMarks(QPainter& painter, const QRect& rect, VNWidgetStatus::StatusFlags flags)
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setBrush(Qt::NoBrush);
-    const QColor frame = frameColor(flags);
-    if (frame.isValid()) {
-        painter.setPen(QPen(frame, 2));
-        painter.drawRect(rect.adjusted(1, 1, -1, -1));
-    }
     const QColor sigma = sigmaColor(flags);
     if (sigma.isValid())
         painter.fillRect(QRect(rect.left(), rect.top(), 5, rect.height()), sigma);
@@ -61,6 +73,22 @@ inline void paint(QPainter& painter, const QRect& rect, VNWidgetStatus::StatusFl
         painter.drawRect(rect.adjusted(1, 1, -1, -1));
     }
     painter.restore();
+}
+
+// Draws a 2 px frame in the status colour, then the sigma bar and the compare-differs frame; an
+// undefined status draws nothing.
+inline void paint(QPainter& painter, const QRect& rect, VNWidgetStatus::StatusFlags flags)
+{
+    const QColor frame = frameColor(flags);
+    if (frame.isValid()) {
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(frame, 2));
+        painter.drawRect(rect.adjusted(1, 1, -1, -1));
+        painter.restore();
+    }
+    paintMarks(painter, rect, flags);
 }
 
 } // namespace VNStatusPainter
