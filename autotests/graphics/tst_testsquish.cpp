@@ -13,6 +13,8 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCalendarWidget>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
@@ -367,7 +369,11 @@ void TestSquishTest::applyWord()
 // One widget of each family by name, and an empty container, which gets nothing.
 void TestSquishTest::familySpotChecks()
 {
+    // A locale whose week starts on Sunday, which the calendars must override.
+    const QLocale previous;
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     TestSquish dialog(nullptr);
+    QLocale::setDefault(previous);
     QWidget* misc = showPage(dialog, QStringLiteral("tabMisc"));
     auto* empty = new VNResultSwitcher(misc);
     clickButton(dialog, "standardLockedStateButton");
@@ -378,6 +384,11 @@ void TestSquishTest::familySpotChecks()
     for (const char* name : {"m_vnCustomMenuButton", "m_vnSlider", "m_actionBar", "calendarWidget"})
         QCOMPARE(int(statusOf(dialog.findChild<QWidget*>(QLatin1String(name)))), 0x23000);
     QCOMPARE(int(statusOf(dialog.findChild<QWidget*>(QStringLiteral("vnLineEdit")))), 0);
+    auto* calendar = dialog.findChild<QCalendarWidget*>(QStringLiteral("calendarWidget"));
+    for (QCalendarWidget* shown :
+         {calendar, dialog.findChild<QDateEdit*>(QStringLiteral("dateEdit"))->calendarWidget()})
+        QCOMPARE(shown->firstDayOfWeek(), Qt::Monday);
+    QCOMPARE(calendar->selectedDate(), QDate(2022, 4, 1));
 
     QWidget* navigation = showPage(dialog, QStringLiteral("tabNavigation"));
     clickButton(dialog, "standardChangedLockedStateButton");
