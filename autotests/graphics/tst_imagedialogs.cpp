@@ -59,12 +59,14 @@ void expectComposeConnectWarnings()
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("receiver name"));
 }
 
-// Reads the receiver count of a signal, which QObject keeps protected.
+// Reads the receiver count of a signal, which QObject keeps protected. The sender is no
+// ReceiverCount, so the count is reached through a pointer to QObject's own member, not a downcast.
 struct ReceiverCount : QObject
 {
-    static int of(QObject* sender, const char* signal)
+    static int of(const QObject* sender, const char* signal)
     {
-        return static_cast<ReceiverCount*>(sender)->receivers(signal);
+        int (QObject::*receivers)(const char*) const = &ReceiverCount::receivers;
+        return (sender->*receivers)(signal);
     }
 };
 

@@ -12,8 +12,12 @@ function(run_step description)
 endfunction()
 
 run_step("install" "${CMAKE_COMMAND}" --install "${BINARY_DIR}" --prefix "${prefix}")
+set(host_flags)
+if(HOST_CXX_FLAGS)
+    set(host_flags "-DCMAKE_CXX_FLAGS=${HOST_CXX_FLAGS}")
+endif()
 run_step("configure host" "${CMAKE_COMMAND}" -S "${HOST_SOURCE_DIR}" -B "${WORK_DIR}/build" -G "${GENERATOR}"
-         "-DCMAKE_PREFIX_PATH=${prefix}")
+         "-DCMAKE_PREFIX_PATH=${prefix}" ${host_flags})
 run_step("build host" "${CMAKE_COMMAND}" --build "${WORK_DIR}/build")
 run_step("run host" "${WORK_DIR}/build/installedhost")
 if(NOT step_output MATCHES "buttons: 40")

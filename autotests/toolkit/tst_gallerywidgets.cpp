@@ -419,6 +419,13 @@ void GalleryWidgetsTest::filterListViewFilters()
     QCOMPARE(view.visibleItems(), visible);
     view.setWidgetStatus(VNWidgetStatus::needInput);
     QCOMPARE(view.filterEdit()->getWidgetStatus(), VNWidgetStatus::StatusFlags(VNWidgetStatus::needInput));
+    // Typing fades the line edit's clear button in; Qt deletes that animation only when it has run
+    // to its end, so the view stays until the button is fully shown.
+    if (!filter.isEmpty()) {
+        auto* clearButton = view.filterEdit()->findChild<QToolButton*>();
+        QVERIFY(clearButton);
+        QTRY_COMPARE(clearButton->property("opacity").toReal(), 1.0);
+    }
 }
 
 void GalleryWidgetsTest::listToolBarVariants_data()

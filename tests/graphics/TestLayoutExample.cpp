@@ -216,8 +216,10 @@ void TestLayoutExample::on_addStretch_clicked(bool checked)
     }
     for (int index = m_layout->count() - 1; index >= 0; --index) {
         QLayoutItem* item = m_layout->itemAt(index);
-        if (item->spacerItem())
+        if (QSpacerItem* spacer = item->spacerItem()) {
             m_layout->removeItem(item);
+            m_removedStretches.emplace_back(spacer);
+        }
     }
 }
 

@@ -4,8 +4,12 @@
 
 #include <QDialog>
 
+#include <memory>
+#include <vector>
+
 class QLayout;
 class QPushButton;
+class QSpacerItem;
 class QTextEdit;
 
 // Teaches and checks layout behaviour: a text edit, a line edit and a button in a frame whose
@@ -48,4 +52,6 @@ private:
     QTextEdit* m_codeView;
     QPushButton* m_button;
     QLayout* m_layout;
+    // Stretches taken out of the layout are not deleted then; the dialog keeps them until it goes.
+    std::vector<std::unique_ptr<QSpacerItem>> m_removedStretches;
 };

@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QTreeWidgetItem>
 
 namespace {
 const QString dragFormat = QStringLiteral("application/dragContent");
@@ -43,6 +44,8 @@ TestDendrogramWidget::TestDendrogramWidget(QWidget* parent)
     connect(m_addColumn, &QPushButton::clicked, this, &TestDendrogramWidget::onAddColumnClicked);
     connect(m_backToDefault, &QPushButton::clicked, this, &TestDendrogramWidget::onBackToDefaultClicked);
 }
+
+TestDendrogramWidget::~TestDendrogramWidget() = default;
 
 void TestDendrogramWidget::rebuildModel()
 {
@@ -95,7 +98,8 @@ void TestDendrogramWidget::onAddItemClicked()
 // The row is only taken out of the tree: the links to it stay in the model.
 void TestDendrogramWidget::onDeleteLastItemClicked()
 {
-    m_dendrogram->takeTopLevelItem(m_dendrogram->topLevelItemCount() - 1);
+    if (QTreeWidgetItem* taken = m_dendrogram->takeTopLevelItem(m_dendrogram->topLevelItemCount() - 1))
+        m_takenItems.emplace_back(taken);
 }
 
 void TestDendrogramWidget::onAddColumnClicked()

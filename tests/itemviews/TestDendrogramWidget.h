@@ -8,6 +8,9 @@
 #include <QPoint>
 #include <QStringList>
 
+#include <memory>
+#include <vector>
+
 class QDragMoveEvent;
 class QDropEvent;
 class QMimeData;
@@ -25,6 +28,7 @@ public:
     using Links = std::vector<Varnis::VNDendrogramWidget::DendrogramModel::Link>;
 
     explicit TestDendrogramWidget(QWidget* parent);
+    ~TestDendrogramWidget() override;
 
     Varnis::VNDendrogramWidget* dendrogram() const { return m_dendrogram; }
     const Links& itemToColumnLinks() const { return m_itemToColumn; }
@@ -53,4 +57,6 @@ private:
     Links m_columnToColumn;
     QStringList m_headerLabels;
     QPoint m_dragStartPoint;
+    // Rows taken out with "Delete last item" are not deleted then; the dialog keeps them until it goes.
+    std::vector<std::unique_ptr<QTreeWidgetItem>> m_takenItems;
 };

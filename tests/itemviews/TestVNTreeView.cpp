@@ -53,10 +53,12 @@ TestVNTreeView::TestVNTreeView(QWidget* parent)
             &TestVNTreeView::onDropEvent);
 }
 
-// The target model stays: only the source model is released, as the dialog always did.
+// The source model is released later, as the dialog always did; the target model, with the rows
+// dropped into it, goes with the dialog at once, since nothing else refers to it.
 TestVNTreeView::~TestVNTreeView()
 {
     m_sourceModel->deleteLater();
+    delete m_targetModel;
 }
 
 void TestVNTreeView::onAddItem()
