@@ -25,6 +25,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
+#include <QPointer>
 #include <QRadioButton>
 #include <QStandardItemModel>
 #include <QTest>
@@ -107,6 +108,7 @@ private slots:
     void tableRemoveOnEmptyChangesNothing();
 
     void treeViewNumbersAndDropCopiesFirstText();
+    void treeViewKeepsTargetModelAfterClose();
 
     void dragAndDropNumberingAndPlacement();
 
@@ -649,6 +651,17 @@ void TestItemViewDialogs::joinsDropTargets()
     QCOMPARE(table->topLevelItem(1)->text(2), QStringLiteral("Join 5"));
     QCOMPARE(table->topLevelItem(2)->text(2), QStringLiteral("Join 2"));
     QCOMPARE(table->topLevelItemCount(), 10);
+}
+
+// Only the source model goes with the dialog; the target model, with its dropped rows, stays.
+void TestItemViewDialogs::treeViewKeepsTargetModelAfterClose()
+{
+    auto* dialog = new TestVNTreeView(nullptr);
+    QPointer<QStandardItemModel> source = dialog->sourceModel();
+    QPointer<QStandardItemModel> target = dialog->targetModel();
+    delete dialog;
+    QTRY_VERIFY(source.isNull());
+    QVERIFY(!target.isNull());
 }
 
 void TestItemViewDialogs::treeItemDelegateRows()
