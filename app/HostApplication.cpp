@@ -1,6 +1,7 @@
 #include "HostApplication.h"
 
 #include "ContactSheet.h"
+#include "LookAudit.h"
 #include "ObjectMap.h"
 
 #include <CollectionClock.h>
@@ -190,13 +191,32 @@ int HostApplication::start(const QStringList& arguments)
                        "widgets (object name, classes, path of object names, geometry, visibility, enabled "
                        "state, text) as JSON to FILE, then exit."),
         QStringLiteral("FILE"));
-    parser.addOptions({listOption, openOption, screenshotOption, objectMapOption, mockLocaleOption});
+    const QCommandLineOption auditOption(
+        QStringLiteral("audit"),
+        QStringLiteral("Open every launcher button in turn, as --screenshot does, check every window's look (status "
+                       "looks against the palette, contrast, Tab order and focus, names for screen readers, "
+                       "drawing at --scale 2), write DIR/audit.json and DIR/audit.html, then exit: 1 when "
+                       "something was found, 0 otherwise."),
+        QStringLiteral("DIR"));
+    const QCommandLineOption scaleOption(
+        QStringLiteral("scale"),
+        QStringLiteral("With --screenshot or --audit: draw every window for a screen of N device pixels per pixel "
+                       "(1 to 4, default 1), icons included."),
+        QStringLiteral("N"), QStringLiteral("1"));
+    parser.addOptions(
+        {listOption, openOption, screenshotOption, objectMapOption, auditOption, mockLocaleOption, scaleOption});
     parser.process(arguments);
+    bool scaleValid = false;
+    const int scale = parser.value(scaleOption).toInt(&scaleValid);
+    if (!scaleValid || scale < 1 || scale > 4) {
+        err() << "testwidgetcollection: --scale takes a whole number from 1 to 4." << Qt::endl;
+        return 2;
+    }
     // The texts are translated when the forms are set up, so the translation comes first.
     if (parser.isSet(mockLocaleOption) && !installMockTranslation())
         return 1;
 
-    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption)) {
+    if (parser.isSet(screenshotOption) || parser.isSet(objectMapOption) || parser.isSet(auditOption)) {
         useReproducibleLook();
         useReproducibleBehaviour();
     }
@@ -209,6 +229,8 @@ int HostApplication::start(const QStringList& arguments)
         return takeScreenshots(parser.value(screenshotOption));
     if (parser.isSet(objectMapOption))
         return writeObjectMap(parser.value(objectMapOption));
+    if (parser.isSet(auditOption))
+        return runAudit(parser.value(auditOption));
 
     const QStringList names = parser.values(openOption);
     for (const QString& name : names) {
@@ -446,4 +468,21 @@ int HostApplication::writeObjectMap(const QString& path)
     }
     out() << path << Qt::endl;
     return 0;
+}
+
+int HostApplication::runAudit(const QString& directory)
+{
+    LookAudit audit(directory, QCoreApplication::applicationFilePath());
+    const QString error = audit.begin();
+    if (!error.isEmpty()) {
+        err() << "testwidgetcollection: " << error << "." << Qt::endl;
+        return 1;
+    }
+    visitEveryWindow([&](const QPushButton* button, QWidget* window, int index) {
+        const QString name = button ? button->objectName() : m_panel->objectName();
+        audit.inspectWindow(index == 0 ? name : QStringLiteral("%1_%2").arg(name).arg(index + 1),
+                            button ? button->text() : m_panel->windowTitle(), window);
+        return true;
+    });
+    return audit.finish();
 }

@@ -14,7 +14,7 @@ class QWidget;
 class TestWidgetCollection;
 
 // The host of the collection: creates the panel in the toolkit's style and carries out the
-// command line (--list, --open, --screenshot, --object-map, --mock-locale).
+// command line (--list, --open, --screenshot, --object-map, --audit, --scale, --mock-locale).
 class HostApplication
 {
 public:
@@ -43,6 +43,7 @@ private:
     bool visitEveryWindow(const WindowVisitor& visit);
     int takeScreenshots(const QString& directory);
     int writeObjectMap(const QString& path);
+    int runAudit(const QString& directory);
     bool saveScreenshot(const QDir& directory, const QString& name, QWidget* window) const;
     // Saves a window once per page of its tab widget, as <name>-<page object name>.png.
     bool saveTabScreenshots(const QDir& directory, const QString& name, const QString& caption, QWidget* window,

@@ -13,9 +13,22 @@ bool hasOption(int argc, char* argv[], const QByteArray& option)
     return false;
 }
 
+QByteArray optionValue(int argc, char* argv[], const QByteArray& option)
+{
+    for (int index = 1; index < argc; ++index) {
+        const QByteArray argument(argv[index]);
+        if (argument == option && index + 1 < argc)
+            return QByteArray(argv[index + 1]);
+        if (argument.startsWith(option + '='))
+            return argument.mid(option.size() + 1);
+    }
+    return QByteArray();
+}
+
 bool isReproducibleRun(int argc, char* argv[])
 {
-    return hasOption(argc, argv, "--screenshot") || hasOption(argc, argv, "--object-map");
+    return hasOption(argc, argv, "--screenshot") || hasOption(argc, argv, "--object-map") ||
+           hasOption(argc, argv, "--audit");
 }
 
 bool needsNoDisplay(int argc, char* argv[])
@@ -36,8 +49,8 @@ void choosePlatform(int argc, char* argv[])
 }
 
 // Screenshots and object maps give the same pixels and geometry on every machine: one device pixel
-// per logical pixel, 96 dots per inch for fonts, UTC, a fixed order of hashes, and neither the user's
-// style nor desktop theme, whatever the screen and the user's settings.
+// per logical pixel (or as many as --scale asks for), 96 dots per inch for fonts, UTC, a fixed order of hashes, and
+// neither the user's style nor desktop theme, whatever the screen and the user's settings.
 void fixReproducibleEnvironment(int argc, char* argv[])
 {
     if (!isReproducibleRun(argc, argv))
@@ -51,7 +64,12 @@ void fixReproducibleEnvironment(int argc, char* argv[])
     // Whatever shows the contents of a hash or set shows them in the same order in every run.
     qSetGlobalQHashSeed(0);
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
+    // --scale N draws every window for a screen of N device pixels per pixel, icons included.
+    const QByteArray scale = optionValue(argc, argv, "--scale");
+    const bool scaled = !scale.isEmpty() && scale != "1";
+    if (scaled)
+        qputenv("QT_SCALE_FACTOR", scale);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, scaled);
 }
 } // namespace
 
