@@ -7,6 +7,8 @@
 #include <QHash>
 #include <QJsonArray>
 
+#include <cmath>
+
 namespace {
 struct Pair
 {
@@ -16,9 +18,10 @@ struct Pair
     double minimum;
 };
 
+// Two decimals, rounded down: a ratio just below a limit never reads as reaching it.
 double rounded(double ratio)
 {
-    return qRound(ratio * 100) / 100.0;
+    return std::floor(ratio * 100) / 100.0;
 }
 
 // Collects one finding per part, colour and background, with every family and word that shows it.

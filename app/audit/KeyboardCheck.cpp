@@ -17,10 +17,12 @@ namespace {
 const int maxPressesInOneView = 400;
 const int cropGap = 6;
 
+// As a keyboard sends it: with the tab character as text, which text fields may take.
 void pressTabOn(QWidget* widget)
 {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Tab, Qt::NoModifier);
+    const QString tab(QLatin1Char('\t'));
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, tab);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Tab, Qt::NoModifier, tab);
     QApplication::sendEvent(widget, &press);
     QApplication::sendEvent(widget, &release);
 }
