@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Makes the current look of every window the reference: builds the collection and the screenshot
 # test into build/ (or $BUILD_DIR), takes the screenshots in the test's own fixed environment and
-# writes them into autotests/app/screenshots, removing references of windows that are gone.
+# writes them into autotests/app/screenshots, removing references of windows that are gone. The
+# panel and the gallery's tabs at two device pixels per pixel (--scale 2) go into its subfolder 2x.
 # Review the result with `git status autotests/app/screenshots` (and an image diff tool), then
 # commit it.
 set -euo pipefail
@@ -15,4 +16,4 @@ fi
 cmake --build "$build_dir" --target testwidgetcollection tst_screenshots
 cd "$build_dir"
 TWC_ACCEPT_SCREENSHOTS=1 ctest -R '^tst_screenshots$' --output-on-failure
-git -C "$top" status --short -- autotests/app/screenshots
+git -C "$top" status --short --untracked-files=all -- autotests/app/screenshots

@@ -1,3 +1,5 @@
+#include "ReproducibleEnvironment.h"
+
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -5,56 +7,26 @@
 #include <QTest>
 
 // Takes a screenshot of every window and compares it, pixel for pixel, with its reference in
-// autotests/app/screenshots. A window that looks different leaves its new screenshot and a
-// difference image in the build tree's screenshot-results folder. With TWC_ACCEPT_SCREENSHOTS=1
-// (scripts/accept-screenshots.sh) the new screenshots become the references instead.
+// autotests/app/screenshots; the panel and the gallery's tabs also at two device pixels per pixel
+// (--scale 2), with references in its subfolder 2x. A window that looks different leaves its new
+// screenshot and a difference image in the build tree's screenshot-results folder. With
+// TWC_ACCEPT_SCREENSHOTS=1 (scripts/accept-screenshots.sh) the new screenshots become the
+// references instead.
 namespace {
 const QString referenceDirectory = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshots");
 const QString resultsDirectory = QStringLiteral(TWC_BINARY_DIR "/screenshot-results");
-const QString fontConfiguration = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshot-fonts.conf");
+// The windows whose look at --scale 2 has references too, and where they are.
+const QStringList highDensityWindows = {QStringLiteral("TestWidgetCollection.png"),
+                                        QStringLiteral("m_testSquish-*.png")};
+const QString highDensityFolder = QStringLiteral("2x");
 const QString acceptCommand = QStringLiteral("scripts/accept-screenshots.sh");
 // Compressed as far as PNG goes, to keep the references small.
 const int referenceQuality = 0;
 const QRgb differentPixel = qRgb(255, 0, 0);
 
-bool isMachineSetting(const QString& name)
+QStringList screenshotNames(const QDir& directory, const QStringList& filters = {QStringLiteral("*.png")})
 {
-    for (const char* prefix : {"QT_", "LC_", "XDG_", "FONTCONFIG"}) {
-        if (name.startsWith(QLatin1String(prefix)))
-            return true;
-    }
-    for (const char* variable : {"LANG", "LANGUAGE", "TZ", "HOME", "DISPLAY", "WAYLAND_DISPLAY"}) {
-        if (name == QLatin1String(variable))
-            return true;
-    }
-    return false;
-}
-
-// The run sees neither the user's home, fonts, locale and time zone nor their Qt settings.
-QProcessEnvironment reproducibleEnvironment(const QDir& home)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QStringList names = environment.keys();
-    for (const QString& name : names) {
-        if (isMachineSetting(name))
-            environment.remove(name);
-    }
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral("cache")));
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
-    environment.insert(QStringLiteral("FONTCONFIG_FILE"), fontConfiguration);
-    return environment;
-}
-
-QStringList screenshotNames(const QDir& directory)
-{
-    QStringList names = directory.entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name);
+    QStringList names = directory.entryList(filters, QDir::Files, QDir::Name);
     for (QString& name : names)
         name.chop(4);
     return names;
@@ -100,59 +72,85 @@ private slots:
     void ignoresUserSettings();
 
 private:
-    bool takeScreenshots(const QProcessEnvironment& environment, const QString& directory);
-    void acceptScreenshots();
+    bool takeScreenshots(const QProcessEnvironment& environment, const QString& directory,
+                         const QStringList& options = {});
+    void acceptScreenshots(const QDir& references, const QDir& screenshots, const QStringList& filters);
+    QString screenshotPath(const QString& name) const;
 
     QTemporaryDir m_home;
     QTemporaryDir m_screenshots;
+    QTemporaryDir m_highDensityScreenshots;
 };
 
-bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, const QString& directory)
+bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, const QString& directory,
+                                      const QStringList& options)
 {
     QProcess host;
     host.setProcessEnvironment(environment);
-    host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--screenshot"), directory});
+    host.start(QStringLiteral(HOST_EXECUTABLE), QStringList{QStringLiteral("--screenshot"), directory} + options);
     const bool ok = host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
     if (!ok)
         qWarning("%s", host.readAllStandardError().constData());
     return ok;
 }
 
-void ScreenshotsTest::acceptScreenshots()
+void ScreenshotsTest::acceptScreenshots(const QDir& references, const QDir& screenshots, const QStringList& filters)
 {
-    QDir references(referenceDirectory);
+    QVERIFY(references.mkpath(QStringLiteral(".")));
     for (const QString& name : screenshotNames(references))
-        QVERIFY(references.remove(name + QStringLiteral(".png")));
-    const QDir screenshots(m_screenshots.path());
-    for (const QString& name : screenshotNames(screenshots)) {
+        QVERIFY(QDir(references).remove(name + QStringLiteral(".png")));
+    for (const QString& name : screenshotNames(screenshots, filters)) {
         const QString file = name + QStringLiteral(".png");
         QVERIFY2(QImage(screenshots.filePath(file)).save(references.filePath(file), "PNG", referenceQuality),
                  qPrintable(references.filePath(file)));
     }
-    qInfo("Accepted %d screenshots into %s", screenshotNames(screenshots).size(), qPrintable(referenceDirectory));
+    qInfo("Accepted %d screenshots into %s", screenshotNames(screenshots, filters).size(),
+          qPrintable(references.path()));
 }
 
 void ScreenshotsTest::initTestCase()
 {
-    QVERIFY(m_home.isValid() && m_screenshots.isValid());
-    QVERIFY2(QFile::exists(fontConfiguration), qPrintable(fontConfiguration));
+    QVERIFY(m_home.isValid() && m_screenshots.isValid() && m_highDensityScreenshots.isValid());
+    QVERIFY2(QFile::exists(ReproducibleEnvironment::fontConfiguration()),
+             qPrintable(ReproducibleEnvironment::fontConfiguration()));
     QVERIFY2(QFile::exists(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")),
              "the references show Debian's fonts-dejavu-core: install it with scripts/bootstrap.sh");
-    QVERIFY2(takeScreenshots(reproducibleEnvironment(QDir(m_home.path())), m_screenshots.path()),
-             "the screenshot run failed");
-    QVERIFY(QDir(resultsDirectory).removeRecursively() && QDir().mkpath(resultsDirectory));
-    if (qEnvironmentVariableIntValue("TWC_ACCEPT_SCREENSHOTS") == 1)
-        acceptScreenshots();
+    const QProcessEnvironment environment = ReproducibleEnvironment::forHome(QDir(m_home.path()));
+    QVERIFY2(takeScreenshots(environment, m_screenshots.path()), "the screenshot run failed");
+    QVERIFY2(
+        takeScreenshots(environment, m_highDensityScreenshots.path(), {QStringLiteral("--scale"), QStringLiteral("2")}),
+        "the screenshot run at --scale 2 failed");
+    QVERIFY(QDir(resultsDirectory).removeRecursively() && QDir().mkpath(resultsDirectory) &&
+            QDir(resultsDirectory).mkpath(highDensityFolder));
+    if (qEnvironmentVariableIntValue("TWC_ACCEPT_SCREENSHOTS") != 1)
+        return;
+    const QDir references(referenceDirectory);
+    acceptScreenshots(references, QDir(m_screenshots.path()), {QStringLiteral("*.png")});
+    acceptScreenshots(QDir(references.filePath(highDensityFolder)), QDir(m_highDensityScreenshots.path()),
+                      highDensityWindows);
 }
 
 void ScreenshotsTest::matchesReference_data()
 {
     QTest::addColumn<QString>("name");
     QStringList names = screenshotNames(QDir(referenceDirectory)) + screenshotNames(QDir(m_screenshots.path()));
+    const QDir highDensityReferences(QDir(referenceDirectory).filePath(highDensityFolder));
+    for (const QString& name : screenshotNames(highDensityReferences) +
+                                   screenshotNames(QDir(m_highDensityScreenshots.path()), highDensityWindows))
+        names << highDensityFolder + QLatin1Char('/') + name;
     names.removeDuplicates();
     names.sort();
     for (const QString& name : qAsConst(names))
         QTest::newRow(qPrintable(name)) << name;
+}
+
+// Where the run saved the window `name` ("2x/..." for the run at --scale 2).
+QString ScreenshotsTest::screenshotPath(const QString& name) const
+{
+    const QString prefix = highDensityFolder + QLatin1Char('/');
+    if (name.startsWith(prefix))
+        return QDir(m_highDensityScreenshots.path()).filePath(name.mid(prefix.size()) + QStringLiteral(".png"));
+    return QDir(m_screenshots.path()).filePath(name + QStringLiteral(".png"));
 }
 
 void ScreenshotsTest::matchesReference()
@@ -160,7 +158,7 @@ void ScreenshotsTest::matchesReference()
     QFETCH(QString, name);
     const QString file = name + QStringLiteral(".png");
     const QImage reference(QDir(referenceDirectory).filePath(file));
-    const QImage screenshot(QDir(m_screenshots.path()).filePath(file));
+    const QImage screenshot(screenshotPath(name));
     if (reference.isNull())
         QFAIL(qPrintable(
             QStringLiteral("window %1 has no reference screenshot; accept it with %2").arg(name, acceptCommand)));
@@ -190,7 +188,7 @@ void ScreenshotsTest::matchesReference()
 // A designer's own scaling, style, font resolution, language and time zone change nothing.
 void ScreenshotsTest::ignoresUserSettings()
 {
-    QProcessEnvironment environment = reproducibleEnvironment(QDir(m_home.path()));
+    QProcessEnvironment environment = ReproducibleEnvironment::forHome(QDir(m_home.path()));
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
     environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("Windows"));
     environment.insert(QStringLiteral("QT_FONT_DPI"), QStringLiteral("120"));
