@@ -2,7 +2,8 @@
 # Makes the current look of every window the reference: builds the collection and the screenshot
 # test into build/ (or $BUILD_DIR), takes the screenshots in the test's own fixed environment and
 # writes them into autotests/app/screenshots, removing references of windows that are gone. The
-# panel and the gallery's tabs at two device pixels per pixel (--scale 2) go into its subfolder 2x.
+# panel and the gallery's tabs at two device pixels per pixel (--scale 2) go into its subfolder 2x,
+# and the look audit's status matrix becomes autotests/app/audit-matrix.png.
 # Review the result with `git status autotests/app/screenshots` (and an image diff tool), then
 # commit it.
 set -euo pipefail
@@ -13,7 +14,7 @@ if [ -f "$build_dir/CMakeCache.txt" ]; then
 else
     cmake -S "$top" -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" -DBUILD_TESTING=ON
 fi
-cmake --build "$build_dir" --target testwidgetcollection tst_screenshots
+cmake --build "$build_dir" --target testwidgetcollection tst_screenshots tst_audit
 cd "$build_dir"
-TWC_ACCEPT_SCREENSHOTS=1 ctest -R '^tst_screenshots$' --output-on-failure
-git -C "$top" status --short --untracked-files=all -- autotests/app/screenshots
+TWC_ACCEPT_SCREENSHOTS=1 ctest -R '^(tst_screenshots|audit_report)$' --output-on-failure
+git -C "$top" status --short --untracked-files=all -- autotests/app/screenshots autotests/app/audit-matrix.png

@@ -123,7 +123,7 @@ QList<AuditFinding> ContrastCheck::run(const QString& windowName, const StatusMa
                                   {QStringLiteral("compare"), look.compare, window, ColorContrast::markMinimum},
                                   {QStringLiteral("text"), look.text, look.fill, ColorContrast::textMinimum}};
             for (const Pair& pair : pairs)
-                collector.add(pair, QStringLiteral("palette"), QString(), label, QImage());
+                collector.add(pair, QStringLiteral("palette"), QStringLiteral("palette"), label, QImage());
         }
     }
     return collector.findings();

@@ -1,6 +1,7 @@
 #include "ReproducibleEnvironment.h"
 
 #include <QFile>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,6 +14,9 @@
 // report to zero (ctest runs it after writesReport and expects it to fail until the fixes land).
 namespace {
 const QString reportDirectory = QStringLiteral(TWC_BINARY_DIR "/audit");
+// The status matrix as designers see it, accepted like a screenshot (scripts/accept-screenshots.sh).
+const QString matrixReference = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/audit-matrix.png");
+const QString resultsDirectory = QStringLiteral(TWC_BINARY_DIR "/screenshot-results");
 const int auditTimeoutMs = 300000;
 // Findings named in a failure message; the report has them all.
 const int findingsShown = 20;
@@ -33,6 +37,9 @@ class AuditTest : public QObject
 private slots:
     void writesReport();
     void findsNothing();
+
+private:
+    void compareMatrix();
 };
 
 void AuditTest::writesReport()
@@ -55,12 +62,33 @@ void AuditTest::writesReport()
     QVERIFY(report.value(QStringLiteral("matrix")).toObject().value(QStringLiteral("cells")).toInt() > 0);
     for (const QJsonValue& value : report.value(QStringLiteral("findings")).toArray()) {
         const QJsonObject finding = value.toObject();
-        for (const char* key : {"window", "check", "rule", "message"})
+        for (const char* key : {"window", "objectName", "check", "rule", "message"})
             QVERIFY2(!finding.value(QLatin1String(key)).toString().isEmpty(), key);
         const QString picture = finding.value(QStringLiteral("picture")).toString();
         QVERIFY2(picture.isEmpty() || QFile::exists(QDir(reportDirectory).filePath(picture)), qPrintable(picture));
     }
     QVERIFY(QFile::exists(QDir(reportDirectory).filePath(QStringLiteral("audit.html"))));
+    compareMatrix();
+}
+
+void AuditTest::compareMatrix()
+{
+    const QImage matrix(QDir(reportDirectory).filePath(QStringLiteral("matrix.png")));
+    QVERIFY2(!matrix.isNull(), "the audit wrote no status matrix");
+    if (qEnvironmentVariableIntValue("TWC_ACCEPT_SCREENSHOTS") == 1) {
+        QFile::remove(matrixReference);
+        QVERIFY(matrix.save(matrixReference, "PNG", 0));
+        qInfo("Accepted the status matrix into %s", qPrintable(matrixReference));
+        return;
+    }
+    const QImage reference(matrixReference);
+    if (reference.convertToFormat(QImage::Format_ARGB32) == matrix.convertToFormat(QImage::Format_ARGB32))
+        return;
+    const QString result = QDir(resultsDirectory).filePath(QStringLiteral("audit-matrix.png"));
+    QVERIFY(QDir().mkpath(resultsDirectory) && matrix.save(result));
+    QFAIL(qPrintable(QStringLiteral("the status matrix looks different from %1: see %2; accept it with "
+                                    "scripts/accept-screenshots.sh")
+                         .arg(matrixReference, result)));
 }
 
 void AuditTest::findsNothing()

@@ -14,6 +14,7 @@
 #include <VNWidgetStatus.h>
 
 #include <QApplication>
+#include <QDoubleSpinBox>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLabel>
@@ -63,13 +64,12 @@ Widget* add(QWidget* window, Widget* widget, const QString& name)
     return widget;
 }
 
-QStringList rules(const QList<AuditFinding>& findings, const QString& objectName)
+// "objectName:rule" of every finding.
+QStringList rules(const QList<AuditFinding>& findings)
 {
     QStringList found;
-    for (const AuditFinding& finding : findings) {
-        if (finding.objectName == objectName)
-            found << finding.rule;
-    }
+    for (const AuditFinding& finding : findings)
+        found << finding.objectName + QLatin1Char(':') + finding.rule;
     return found;
 }
 
@@ -145,7 +145,10 @@ void LookAuditTest::names_data()
     QTest::addColumn<Build>("build");
     QTest::addColumn<QStringList>("rules");
     QTest::newRow("field without a label")
-        << Build([](QWidget* w) { add(w, new QLineEdit, "field"); }) << QStringList{"no-name"};
+        << Build([](QWidget* w) { add(w, new QLineEdit, "field"); }) << QStringList{"field:no-name"};
+    QTest::newRow("spin box with a buddy label") << Build([](QWidget* w) {
+        add(w, new QLabel("&Angle"), "label")->setBuddy(add(w, new QDoubleSpinBox, "field"));
+    }) << QStringList{};
     QTest::newRow("field with a buddy label")
         << Build([](QWidget* w) { add(w, new QLabel("&Width"), "label")->setBuddy(add(w, new QLineEdit, "field")); })
         << QStringList{};
@@ -155,7 +158,7 @@ void LookAuditTest::names_data()
                                         << QStringList{};
     QTest::newRow("focusable widget that says nothing about itself")
         << Build([](QWidget* w) { add(w, new Plain, "field")->setAccessibleName("Swatch"); })
-        << QStringList{"wrong-role"};
+        << QStringList{"field:wrong-role"};
 }
 
 void LookAuditTest::names()
@@ -163,7 +166,7 @@ void LookAuditTest::names()
     QFETCH(Build, build);
     QFETCH(QStringList, rules);
     const auto shown = window(build);
-    QCOMPARE(::rules(NameCheck::run("window", shown.get()), "field"), rules);
+    QCOMPARE(::rules(NameCheck::run("window", shown.get())), rules);
 }
 
 void LookAuditTest::keyboard_data()
@@ -178,12 +181,17 @@ void LookAuditTest::keyboard_data()
         });
     };
     QTest::newRow("text edit that keeps Tab")
-        << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle"); }) << QStringList{"keeps-tab"};
+        << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle"); }) << QStringList{"middle:keeps-tab"};
     QTest::newRow("text edit that passes Tab on")
         << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle")->setTabChangesFocus(true); })
         << QStringList{};
     QTest::newRow("focus that does not show")
-        << withField([](QWidget* w) { add(w, new Plain, "middle"); }) << QStringList{"focus-invisible"};
+        << withField([](QWidget* w) { add(w, new Plain, "middle"); }) << QStringList{"middle:focus-invisible"};
+    QTest::newRow("first widget's focus does not show") << Build([](QWidget* w) {
+        add(w, new Plain, "first");
+        add(w, new QLineEdit, "middle");
+        add(w, new QLineEdit, "last");
+    }) << QStringList{"first:focus-invisible"};
     QTest::newRow("button whose focus shows")
         << withField([](QWidget* w) { add(w, new QPushButton("OK"), "middle"); }) << QStringList{};
 }
@@ -196,10 +204,16 @@ void LookAuditTest::keyboard()
     KeyboardCheck check("window", shown.get());
     const QList<AuditFinding> findings = check.run();
     QCOMPARE(check.tabStopCount(), 3);
-    QCOMPARE(::rules(findings, "middle"), rules);
-    QVERIFY(::rules(findings, "first").isEmpty() && ::rules(findings, "last").isEmpty());
+    QCOMPARE(::rules(findings), rules);
     if (auto* edit = shown->findChild<QTextEdit*>())
         QCOMPARE(edit->toPlainText(), QStringLiteral("text")); // the Tab it kept is taken out again
+    // A focus that does not show is pictured unfocused and focused, side by side.
+    for (const AuditFinding& finding : findings) {
+        if (finding.rule != QLatin1String("focus-invisible"))
+            continue;
+        QCOMPARE(finding.crop.pixelColor(1, 1), QColor(Qt::darkCyan));
+        QCOMPARE(finding.crop.pixelColor(finding.crop.width() - 2, 1), QColor(Qt::darkCyan));
+    }
 }
 
 // The toolkit's looks, read from their pixels, against the palette: a style sheet rule or a
@@ -257,7 +271,7 @@ void LookAuditTest::statusLookAgainstPalette()
 void LookAuditTest::lowContrastIsFound()
 {
     StatusMatrix matrix;
-    matrix.setWords({{"Different", VNWidgetStatus::different}});
+    matrix.setWords({{"Different", VNWidgetStatus::different}, {"None", {}}});
     matrix.addFamily({"field", "subject"});
     StatusSwatch swatch;
     swatch.frame = QColor(0xc9, 0xa4, 0x00);
@@ -265,13 +279,20 @@ void LookAuditTest::lowContrastIsFound()
     swatch.fill = QColor(Qt::white);
     swatch.text = QColor(0x99, 0x99, 0x99);
     matrix.setCell(0, 0, false, swatch, QImage());
-    const QList<AuditFinding> findings = ContrastCheck::run("window", matrix, Qt::white);
+    matrix.setCell(0, 0, true, swatch, QImage());
+    swatch.text = QColor(Qt::black);
+    matrix.setCell(0, 1, false, swatch, QImage());
     QStringList found;
-    for (const AuditFinding& finding : findings) {
+    for (const AuditFinding& finding : ContrastCheck::run("window", matrix, Qt::white)) {
         if (finding.objectName == QLatin1String("subject"))
-            found << QStringLiteral("%1 %2").arg(finding.rule).arg(finding.measured.value("ratio").toDouble());
+            found << QStringLiteral("%1 %2 %3 %4")
+                         .arg(finding.rule)
+                         .arg(finding.measured.value("ratio").toDouble())
+                         .arg(finding.measured.value("families").toArray().size())
+                         .arg(finding.measured.value("words").toArray().size());
     }
-    QCOMPARE(found, QStringList({"frame 2.07", "text 2.84"}));
+    // One finding per colour pair, with each family once and every word that shows it.
+    QCOMPARE(found, QStringList({"frame 2.07 1 3", "text 2.84 1 2"}));
 }
 
 void LookAuditTest::highDensity_data()
@@ -280,13 +301,13 @@ void LookAuditTest::highDensity_data()
     QTest::addColumn<QStringList>("rules");
     QTest::newRow("picture for one device pixel per pixel")
         << Build([](QWidget* w) { add(w, new QLabel, "subject")->setPixmap(twoColorPixmap(16, 1)); })
-        << QStringList{"upscaled"};
+        << QStringList{"subject:upscaled"};
     QTest::newRow("picture for two") << Build([](QWidget* w) {
         add(w, new QLabel, "subject")->setPixmap(twoColorPixmap(32, 2));
     }) << QStringList{};
     QTest::newRow("bitmap icon") << Build([](QWidget* w) {
         add(w, new QPushButton(QIcon(twoColorPixmap(16, 1)), "Go"), "subject")->setIconSize(QSize(16, 16));
-    }) << QStringList{"upscaled"};
+    }) << QStringList{"subject:upscaled"};
     QTest::newRow("vector icon") << Build([](QWidget* w) {
         add(w, new QPushButton(QIcon(":/Icons/Shared/add_16.svg"), "Add"), "subject")->setIconSize(QSize(16, 16));
     }) << QStringList{};
@@ -297,7 +318,7 @@ void LookAuditTest::highDensity()
     QFETCH(Build, build);
     QFETCH(QStringList, rules);
     const auto shown = window(build);
-    QCOMPARE(::rules(DensityCheck("window", shown.get()).run(), "subject"), rules);
+    QCOMPARE(::rules(DensityCheck("window", shown.get()).run()), rules);
 }
 
 void LookAuditTest::allowListNeedsReasons()
@@ -327,7 +348,9 @@ void LookAuditTest::reportAndExitCode()
         audit.setAllowList(list);
         QCOMPARE(audit.begin(), QString());
         audit.inspectWindow("win", "Window", shown.get());
+        audit.inspectWindow("loupe", "Show Loupe", shown.get()); // the same window again: pictured, not checked
         QCOMPARE(audit.finish(), allowed ? 0 : 1);
+        QCOMPARE(audit.report().findings().size(), 1);
 
         QFile json(QDir(directory.path()).filePath("audit.json"));
         QVERIFY(json.open(QIODevice::ReadOnly));
@@ -337,8 +360,13 @@ void LookAuditTest::reportAndExitCode()
         QCOMPARE(finding.value("objectName").toString(), QStringLiteral("subject"));
         QCOMPARE(finding.value("check").toString(), AuditFinding::densityCheck);
         QCOMPARE(finding.contains("allowedBecause"), allowed);
-        QVERIFY(QFile::exists(QDir(directory.path()).filePath(finding.value("picture").toString())));
-        QVERIFY(QFile::exists(QDir(directory.path()).filePath("audit.html")));
+        const QString picture = finding.value("picture").toString();
+        QVERIFY(!picture.isEmpty() && QFile::exists(QDir(directory.path()).filePath(picture)));
+        QFile html(QDir(directory.path()).filePath("audit.html"));
+        QVERIFY(html.open(QIODevice::ReadOnly));
+        const QString page = QString::fromUtf8(html.readAll());
+        QVERIFY(page.contains("<code>subject</code>") && page.contains(picture));
+        QCOMPARE(page.contains("Allowed: a picture shown pixel for pixel"), allowed);
     }
 }
 
