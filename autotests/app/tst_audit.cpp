@@ -68,6 +68,13 @@ void AuditTest::writesReport()
         QVERIFY2(picture.isEmpty() || QFile::exists(QDir(reportDirectory).filePath(picture)), qPrintable(picture));
     }
     QVERIFY(QFile::exists(QDir(reportDirectory).filePath(QStringLiteral("audit.html"))));
+    // The run at --scale 2 found what it found for this report.
+    QFile highDensity(QDir(reportDirectory).filePath(QStringLiteral("2x/audit.json")));
+    QVERIFY(highDensity.open(QIODevice::ReadOnly));
+    const QJsonObject highDensitySummary =
+        QJsonDocument::fromJson(highDensity.readAll()).object().value(QStringLiteral("summary")).toObject();
+    QCOMPARE(summary.value(QStringLiteral("byCheck")).toObject().value(QStringLiteral("density")).toInt(),
+             highDensitySummary.value(QStringLiteral("findings")).toInt());
     compareMatrix();
 }
 

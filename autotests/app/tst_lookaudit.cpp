@@ -146,6 +146,8 @@ void LookAuditTest::names_data()
     QTest::addColumn<QStringList>("rules");
     QTest::newRow("field without a label")
         << Build([](QWidget* w) { add(w, new QLineEdit, "field"); }) << QStringList{"field:no-name"};
+    QTest::newRow("spin box without a label")
+        << Build([](QWidget* w) { add(w, new QDoubleSpinBox, "field"); }) << QStringList{"field:no-name"};
     QTest::newRow("spin box with a buddy label") << Build([](QWidget* w) {
         add(w, new QLabel("&Angle"), "label")->setBuddy(add(w, new QDoubleSpinBox, "field"));
     }) << QStringList{};
@@ -351,6 +353,7 @@ void LookAuditTest::reportAndExitCode()
         audit.inspectWindow("loupe", "Show Loupe", shown.get()); // the same window again: pictured, not checked
         QCOMPARE(audit.finish(), allowed ? 0 : 1);
         QCOMPARE(audit.report().findings().size(), 1);
+        QCOMPARE(audit.report().openCountsByCheck().last(), qMakePair(AuditFinding::densityCheck, allowed ? 0 : 1));
 
         QFile json(QDir(directory.path()).filePath("audit.json"));
         QVERIFY(json.open(QIODevice::ReadOnly));
