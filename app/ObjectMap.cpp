@@ -1,8 +1,11 @@
 #include "ObjectMap.h"
 
+#include <QComboBox>
 #include <QJsonDocument>
 #include <QMetaProperty>
 #include <QSaveFile>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QWidget>
 
 namespace {
@@ -35,6 +38,23 @@ void addTexts(const QWidget* widget, QJsonObject& node)
     if (widget->isWindow())
         node.insert(QStringLiteral("windowTitle"), widget->windowTitle());
 }
+
+// The entries a robot picks by their text: the items of a combo box and the tabs of a tab bar.
+QJsonArray itemTexts(const QWidget* widget)
+{
+    QJsonArray items;
+    if (const auto* box = qobject_cast<const QComboBox*>(widget)) {
+        for (int index = 0; index < box->count(); ++index)
+            items.append(box->itemText(index));
+    } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
+        for (int index = 0; index < tabs->count(); ++index)
+            items.append(tabs->tabText(index));
+    } else if (const auto* bar = qobject_cast<const QTabBar*>(widget)) {
+        for (int index = 0; index < bar->count(); ++index)
+            items.append(bar->tabText(index));
+    }
+    return items;
+}
 } // namespace
 
 QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath)
@@ -56,6 +76,9 @@ QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath
     if (widget->isWindow())
         node.insert(QStringLiteral("windowGeometry"), rectObject(QRect(QPoint(), widget->size())));
     addTexts(widget, node);
+    const QJsonArray items = itemTexts(widget);
+    if (!items.isEmpty())
+        node.insert(QStringLiteral("items"), items);
     QJsonArray children;
     const QList<QWidget*> childWidgets = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* child : childWidgets) {
