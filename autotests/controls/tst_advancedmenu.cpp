@@ -67,8 +67,6 @@ private slots:
     void triggeredActionBecomesMainOnlyWhenAsked();
     void buttonActionsReachMenuActions();
 
-    void form_data();
-    void form();
     void modifyMenuGroups();
     void listMenuEntries();
     void variantMenu();
@@ -139,49 +137,6 @@ void TestAdvancedMenuDialog::buttonActionsReachMenuActions()
     MenuButton m;
     m.menu.addSeparator();
     QCOMPARE(m.button.actions(), m.actions);
-}
-
-void TestAdvancedMenuDialog::form_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* tag, const char* name, const char* className, const char* text) {
-        QTest::newRow(tag) << name << className << text;
-    };
-    row("modify", "m_advancedBtnModify", "VNButton", "Modify");
-    row("one group", "m_advancedBtnOneGroup", "VNButton", "One Group");
-    row("list", "m_advanceListBtn", "VNButton", "List");
-    row("label", "vnLabel", "VNLabel", "VNAdvancedMenu with ActionsBar Buttons");
-    row("label 2", "vnLabel_2", "VNLabel", "VNAdvancedListMenu");
-    row("label 4", "vnLabel_4", "VNLabel", "Auto Main Action Update Test");
-    row("link", "commandLinkButton", "QCommandLinkButton", "Embed: Rectangle");
-    row("link 2", "commandLinkButton_2", "QCommandLinkButton", "");
-    row("check box group", "m_CheckBoxGroupBtn", "VNButton", "CheckBoxGroup");
-    row("sub menu", "m_advancedSubMenuButton", "VNButton", "Add");
-    row("triggered", "m_triggeredActionCB", "QCheckBox", "Triggered Action as Main");
-    row("disabled", "m_disabledActionCB", "QCheckBox", "Update Disabled Action");
-    row("disable", "m_disableMainActionBtn", "QPushButton", "Disable Main Action");
-    row("enable", "m_enableAllActionsBtn", "QPushButton", "Enable All Actions");
-    row("separator", "vnSeparator", "VNSeparator", "");
-    row("separator 2", "vnSeparator_2", "VNSeparator", "");
-}
-
-void TestAdvancedMenuDialog::form()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    TestAdvancedMenu dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestAdvancedMenuClass"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Form"));
-    QWidget* widget = dialog.findChild<QWidget*>(name);
-    QVERIFY(widget);
-    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), className);
-    if (!text.isEmpty() || className != QLatin1String("VNSeparator"))
-        QCOMPARE(widget->property("text").toString(), text);
-    if (auto* button = qobject_cast<VNButton*>(widget))
-        QCOMPARE(button->popupMode(), QToolButton::MenuButtonPopup);
 }
 
 void TestAdvancedMenuDialog::modifyMenuGroups()

@@ -46,7 +46,6 @@ class CurveInputControlTest : public QObject
 
 private slots:
     void cleanup();
-    void form();
     void optionButtonsFollowTheEnum();
     void initialChecks_data();
     void initialChecks();
@@ -62,23 +61,6 @@ private slots:
 void CurveInputControlTest::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void CurveInputControlTest::form()
-{
-    TestCurveInputControl dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TestCurveInputControlClass"));
-    QCOMPARE(dialog.windowTitle(), QString("Form"));
-    QVERIFY(dialog.findChild<VNCurveInputControl*>("vnCurveInputControl"));
-    QCOMPARE(dialog.findChild<QCheckBox*>("enableCheckbox")->text(), QString("Enabled"));
-    auto* types = dialog.findChild<QComboBox*>("inputTypeCombo");
-    QCOMPARE(types->count(), 3);
-    QCOMPARE(types->itemText(0), QString("Line"));
-    QCOMPARE(types->itemText(1), QString("Point"));
-    QCOMPARE(types->itemText(2), QString("Generic"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_14")->text(), QString("Available"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_15")->text(), QString("Enabled"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_16")->text(), QString("Default"));
 }
 
 void CurveInputControlTest::optionButtonsFollowTheEnum()

@@ -34,8 +34,6 @@ class TestResultSwitcher : public QObject
 private slots:
     void cleanup();
 
-    void form_data();
-    void form();
     void insertionOrder();
     void menusOnButtons();
     void partsAreSeparated();
@@ -49,34 +47,6 @@ private slots:
 void TestResultSwitcher::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestResultSwitcher::form_data()
-{
-    QTest::addColumn<QString>("switcher");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("count");
-    const auto row = [](const char* tag, const char* switcher, const char* label, const char* count) {
-        QTest::newRow(tag) << switcher << label << count;
-    };
-    row("single", "m_resultSwitcherSingle", "m_countSingle", "1");
-    row("menus", "m_resultSwitcher", "m_count", "4");
-    row("multi", "m_resultSwitcherMulti", "m_countMulti", "10");
-}
-
-void TestResultSwitcher::form()
-{
-    QFETCH(QString, switcher);
-    QFETCH(QString, label);
-    QFETCH(QString, count);
-    TestVNResultSwitcher dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestVNResultSwitcher"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestVNResultSwitcher"));
-    QVERIFY(dialog.findChild<VNResultSwitcher*>(switcher));
-    QCOMPARE(dialog.findChild<VNLabel*>(label)->text(), count);
-    auto* enable = dialog.findChild<QCheckBox*>("m_enableCB");
-    QCOMPARE(enable->text(), QStringLiteral("Set Enabled"));
-    QVERIFY(enable->isChecked());
 }
 
 void TestResultSwitcher::insertionOrder()

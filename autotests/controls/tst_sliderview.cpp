@@ -1,9 +1,8 @@
+#include "../TestSupport.h"
 #include "TestVNSliderView.h"
 
 #include <VNLabel.h>
 #include <VNSlider.h>
-
-#include "../FormRows.h"
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -11,15 +10,6 @@
 #include <QTest>
 
 namespace {
-template<typename T>
-T* child(QWidget* dialog, const char* name)
-{
-    T* found = dialog->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("missing %s", name);
-    return found;
-}
-
 QSpinBox* spin(QWidget* dialog, const char* name)
 {
     return child<QSpinBox>(dialog, name);
@@ -52,8 +42,6 @@ class SliderViewTest : public QObject
 
 private slots:
     void cleanup();
-    void form_data();
-    void form();
     void seededSigmaSlider();
     void draggingAdmissibleRangeUpdatesSpinBoxes();
     void spinBoxesRebuildMarkings();
@@ -71,71 +59,6 @@ private slots:
 void SliderViewTest::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void SliderViewTest::form_data()
-{
-    addFormRows({
-        {"m_vnSlider", "VNSlider", ""},
-        {"m_extendedSlider", "VNSlider", ""},
-        {"m_spanSlider", "VNSlider", ""},
-        {"m_plotSlider", "VNSlider", ""},
-        {"m_sigmaSlider", "VNSlider", ""},
-        {"m_verticalVNSlider", "VNSlider", ""},
-        {"m_verticalQSlider", "QSlider", ""},
-        {"vnLabel_4", "VNLabel", "Display"},
-        {"vnLabel_3", "VNLabel", "Range"},
-        {"vnLabel_2", "VNLabel", "Marker"},
-        {"vnLabel", "VNLabel", "Color"},
-        {"vnLabel_5", "VNLabel", "QSlider"},
-        {"vnLabel_6", "VNLabel", "VNSlider"},
-        {"def_extend", "QCheckBox", "Extend"},
-        {"def_fill", "QCheckBox", "Fill"},
-        {"def_enabled", "QCheckBox", "Enabled"},
-        {"vert_enabled", "QCheckBox", "Enabled"},
-        {"m_gauss", "QCheckBox", "Gaussian Curve"},
-        {"m_input", "QCheckBox", "Input Mode"},
-        {"label_5", "QLabel", "Min"},
-        {"label_10", "QLabel", "Max"},
-        {"label_9", "QLabel", "Current"},
-        {"label_13", "QLabel", "Start"},
-        {"label_16", "QLabel", "End"},
-        {"label_19", "QLabel", "Red"},
-        {"label_20", "QLabel", "Green"},
-        {"label_21", "QLabel", "Blue"},
-        {"label_22", "QLabel", "Alpha"},
-        {"label_3", "QLabel", "Current"},
-        {"label", "QLabel", "Min"},
-        {"label_2", "QLabel", "Max"},
-        {"label_6", "QLabel", "Admissible Min"},
-        {"label_7", "QLabel", "Admissible Max"},
-        {"label_14", "QLabel", "Sublimit Min"},
-        {"label_15", "QLabel", "Sublimit Max"},
-        {"label_8", "QLabel", "Mark Best"},
-        {"def_add", "QToolButton", "+"},
-        {"def_default", "QToolButton", "Default"},
-        {"def_reset", "QToolButton", "Reset"},
-        {"frame", "QFrame", ""},
-        {"vnSeparator", "VNSeparator", ""},
-        {"vnSeparator_2", "VNSeparator", ""},
-    });
-}
-
-void SliderViewTest::form()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    TestVNSliderView dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TestVNSliderView"));
-    QCOMPARE(dialog.windowTitle(), QString("TestVNSliderView"));
-    QVERIFY(formShows(dialog, name, className, text));
-    QWidget* widget = dialog.findChild<QWidget*>(name);
-    if (auto* label = qobject_cast<QLabel*>(widget); label && name.startsWith("label_"))
-        QVERIFY(label->buddy());
-    auto* tabs = child<QTabWidget>(&dialog, "verticalSliderWidget");
-    QCOMPARE(tabs->currentIndex(), 0);
-    QCOMPARE(tabs->tabText(1), QString("Sigma"));
 }
 
 void SliderViewTest::seededSigmaSlider()
