@@ -1,11 +1,17 @@
 #include "ObjectMap.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QJsonDocument>
+#include <QMenu>
 #include <QMetaProperty>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
+#include <QToolButton>
+#include <QTreeView>
 #include <QWidget>
 
 namespace {
@@ -39,7 +45,26 @@ void addTexts(const QWidget* widget, QJsonObject& node)
         node.insert(QStringLiteral("windowTitle"), widget->windowTitle());
 }
 
-// The entries a robot picks by their text: the items of a combo box and the tabs of a tab bar.
+QJsonArray actionTexts(const QList<QAction*>& actions)
+{
+    QJsonArray texts;
+    for (const QAction* action : actions) {
+        if (!action->isSeparator())
+            texts.append(action->text());
+    }
+    return texts;
+}
+
+QJsonArray headerTexts(const QAbstractItemModel* model)
+{
+    QJsonArray texts;
+    for (int section = 0; model && section < model->columnCount(); ++section)
+        texts.append(model->headerData(section, Qt::Horizontal).toString());
+    return texts;
+}
+
+// The entries a robot picks by their text: the items of a combo box, the tabs of a tab bar, the
+// sections of a view's header, the entries of a button's menu or of a context menu.
 QJsonArray itemTexts(const QWidget* widget)
 {
     QJsonArray items;
@@ -52,6 +77,14 @@ QJsonArray itemTexts(const QWidget* widget)
     } else if (const auto* bar = qobject_cast<const QTabBar*>(widget)) {
         for (int index = 0; index < bar->count(); ++index)
             items.append(bar->tabText(index));
+    } else if (qobject_cast<const QTreeView*>(widget) || qobject_cast<const QTableView*>(widget)) {
+        items = headerTexts(static_cast<const QAbstractItemView*>(widget)->model());
+    } else if (const auto* toolButton = qobject_cast<const QToolButton*>(widget); toolButton && toolButton->menu()) {
+        items = actionTexts(toolButton->menu()->actions());
+    } else if (const auto* pushButton = qobject_cast<const QPushButton*>(widget); pushButton && pushButton->menu()) {
+        items = actionTexts(pushButton->menu()->actions());
+    } else if (widget->contextMenuPolicy() == Qt::ActionsContextMenu) {
+        items = actionTexts(widget->actions());
     }
     return items;
 }

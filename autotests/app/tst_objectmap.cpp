@@ -2,6 +2,7 @@
 #include "HostApplication.h"
 #include "ObjectMap.h"
 #include "ReproducibleRun.h"
+#include "TranslationFileTool.h"
 
 #include <QComboBox>
 #include <QGroupBox>
@@ -86,10 +87,10 @@ void collectLines(const QJsonObject& node, const QStringList& parentClasses, boo
 
 // Every window's lines in a stable order, named like its screenshot: by its launcher button (the
 // panel by its object name), a further window of the same button with "_2", "_3"...
-QMap<QString, QStringList> baselines(const QJsonDocument& map)
+QMap<QString, QStringList> baselines(const QJsonArray& map)
 {
     QMap<QString, QStringList> windows;
-    for (const QJsonValue& entry : map.object().value(QStringLiteral("windows")).toArray()) {
+    for (const QJsonValue& entry : map) {
         const QJsonObject window = entry.toObject().value(QStringLiteral("window")).toObject();
         QString name = entry.toObject().value(QStringLiteral("button")).toString();
         if (name.isEmpty())
@@ -133,6 +134,56 @@ QStringList onlyInFirst(const QStringList& first, const QStringList& second)
     return only;
 }
 
+// The windows of an object-map run in the fixed environment, with further arguments.
+QJsonArray mapWindows(const QStringList& arguments)
+{
+    QTemporaryDir home;
+    const QString path = home.filePath(QStringLiteral("map.json"));
+    if (!ReproducibleRun::runHost(ReproducibleRun::environment(QDir(home.path())),
+                                  QStringList{QStringLiteral("--object-map"), path} + arguments))
+        qWarning("the object map run failed");
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return QJsonDocument::fromJson(file.readAll()).object().value(QStringLiteral("windows")).toArray();
+}
+
+// What a user reads is translated; what editors hold, values, enumerator keys and the loupe's
+// menu (a developer's tool, in English by design) are not.
+bool showsData(const QJsonObject& node)
+{
+    const QStringList classes = strings(node.value(QStringLiteral("classes")));
+    for (const char* editor : {"QLineEdit", "QAbstractSpinBox", "QComboBox", "QCalendarWidget", "Loupe"}) {
+        if (classes.contains(QLatin1String(editor)))
+            return true;
+    }
+    const QString path = node.value(QStringLiteral("path")).toString();
+    return node.value(QStringLiteral("objectName")).toString().isEmpty() &&
+           path.contains(QRegularExpression(QStringLiteral("^TestCurveInputControlClass/widget[ADE]$")));
+}
+
+void collectUntranslated(const QJsonObject& english, const QJsonObject& mocked, const TranslationFileTool& tool,
+                         QStringList& untranslated)
+{
+    if (showsData(english))
+        return;
+    for (const char* key : {"text", "title", "windowTitle", "items"}) {
+        const QJsonValue value = english.value(QLatin1String(key));
+        const QStringList texts = value.isArray() ? strings(value) : QStringList(value.toString());
+        const QStringList shown = value.isArray() ? strings(mocked.value(QLatin1String(key)))
+                                                  : QStringList(mocked.value(QLatin1String(key)).toString());
+        for (int index = 0; index < texts.size(); ++index) {
+            const QString& text = texts.at(index);
+            if (text.contains(QRegularExpression(QStringLiteral("^\\D.*[A-Za-z]|^[A-Za-z]"))) &&
+                shown.value(index) != tool.mockSwedish(text))
+                untranslated << english.value(QStringLiteral("path")).toString() + QLatin1Char(' ') + quoted(text);
+        }
+    }
+    const QJsonArray children = english.value(QStringLiteral("children")).toArray();
+    const QJsonArray mockedChildren = mocked.value(QStringLiteral("children")).toArray();
+    for (int index = 0; index < children.size(); ++index)
+        collectUntranslated(children.at(index).toObject(), mockedChildren.at(index).toObject(), tool, untranslated);
+}
+
 QJsonObject childNamed(const QJsonObject& node, const QString& name)
 {
     for (const QJsonValue& child : node.value(QStringLiteral("children")).toArray()) {
@@ -151,6 +202,7 @@ private slots:
     void initTestCase();
     void matchesBaseline_data();
     void matchesBaseline();
+    void mockLocaleTranslatesEveryText();
     void describesWhatRobotsAddress();
     void unwritableMapIsReported();
     void contactSheetEscapesTexts();
@@ -158,19 +210,14 @@ private slots:
 private:
     void acceptBaselines();
 
+    QJsonArray m_english;
     QMap<QString, QStringList> m_windows;
 };
 
 void ObjectMapTest::initTestCase()
 {
-    QTemporaryDir home;
-    const QString path = home.filePath(QStringLiteral("map.json"));
-    QVERIFY2(ReproducibleRun::runHost(ReproducibleRun::environment(QDir(home.path())),
-                                      {QStringLiteral("--object-map"), path}),
-             "the object map run failed");
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    m_windows = baselines(QJsonDocument::fromJson(file.readAll()));
+    m_english = mapWindows({});
+    m_windows = baselines(m_english);
     QVERIFY(m_windows.size() > 10);
     if (qEnvironmentVariableIntValue("TWC_ACCEPT_OBJECT_MAP") == 1)
         acceptBaselines();
@@ -227,6 +274,25 @@ void ObjectMapTest::matchesBaseline()
             .arg(gone.size())
             .arg(added.size())
             .arg(gone.value(0, none), added.value(0, none), acceptCommand)));
+}
+
+// With the mock translation every text that a user reads in any window shows in mock Swedish.
+void ObjectMapTest::mockLocaleTranslatesEveryText()
+{
+    if (!TWC_HAS_MOCK_TRANSLATION)
+        QSKIP("built without lupdate and lrelease");
+    const QJsonArray mocked = mapWindows({QStringLiteral("--mock-locale")});
+    QCOMPARE(mocked.size(), m_english.size());
+    const TranslationFileTool tool;
+    QStringList untranslated;
+    for (int index = 0; index < mocked.size(); ++index) {
+        const auto window = [](const QJsonValue& entry) {
+            return entry.toObject().value(QStringLiteral("window")).toObject();
+        };
+        collectUntranslated(window(m_english.at(index)), window(mocked.at(index)), tool, untranslated);
+    }
+    QVERIFY2(untranslated.isEmpty(),
+             qPrintable(QStringLiteral("texts that stay English:\n") + untranslated.join(QLatin1Char('\n'))));
 }
 
 void ObjectMapTest::describesWhatRobotsAddress()

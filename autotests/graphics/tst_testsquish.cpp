@@ -2,7 +2,6 @@
 #include "TestMasterDetailTree.h"
 #include "TestSquish.h"
 #include "TestTreeDelegates.h"
-#include "TranslationFileTool.h"
 
 #include <VNAdvancedMenu.h>
 #include <VNAnimatedTabBar.h>
@@ -19,10 +18,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPointer>
-#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTest>
-#include <QTranslator>
 
 #include <memory>
 
@@ -126,7 +123,6 @@ private slots:
     void embeddedDialogsDeletedWithGallery();
     void wordsLookDistinct_data();
     void wordsLookDistinct();
-    void mockLocaleLeavesNoEnglish();
 };
 
 void TestSquishTest::initTestCase()
@@ -354,48 +350,6 @@ void TestSquishTest::wordsLookDistinct()
     QVERIFY(anyPixel(looks.at(1), [](const QColor& pixel) {
         return pixel.red() > 180 && pixel.green() < 90 && pixel.blue() < 90; // need input is red
     }));
-}
-
-// With the mock translation every text of the gallery reads translated, the embedded dialogs' too.
-void TestSquishTest::mockLocaleLeavesNoEnglish()
-{
-    if (!TWC_HAS_MOCK_TRANSLATION)
-        QSKIP("built without lupdate and lrelease");
-    const TranslationFileTool tool;
-    TestSquish english(nullptr);
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")));
-    QCoreApplication::installTranslator(&translator);
-    TestSquish mocked(nullptr);
-    QCoreApplication::removeTranslator(&translator);
-    QCOMPARE(mocked.windowTitle(), tool.mockSwedish(english.windowTitle()));
-    for (int index = 0; index < tabs(english)->count(); ++index)
-        QCOMPARE(tabs(mocked)->tabText(index), tool.mockSwedish(tabs(english)->tabText(index)));
-    // Widgets with their texts, titles, current items and headers, and the actions of the menus.
-    // Values, file names and Qt's own parts (the calendar's month names) are no texts to translate.
-    const QRegularExpression letters(QStringLiteral("[A-Za-z]")), data(QStringLiteral("^[\\d.]|\\.\\w{3}$"));
-    auto showsValues = [](const QObject* object) {
-        if (object->parent() && object->parent()->inherits("QComboBox"))
-            return true; // the editor of a combo box
-        for (; object; object = object->parent()) {
-            if (object->inherits("QAbstractSpinBox") || object->inherits("QCalendarWidget"))
-                return true;
-        }
-        return false;
-    };
-    const QList<QObject*> before = english.findChildren<QObject*>();
-    const QList<QObject*> after = mocked.findChildren<QObject*>();
-    QCOMPARE(after.size(), before.size());
-    for (int index = 0; index < before.size(); ++index) {
-        const QObject* object = before.at(index);
-        if (showsValues(object))
-            continue;
-        for (const char* property : {"text", "title", "currentText", "headerLabel"}) {
-            const QString text = object->property(property).toString();
-            if (text.contains(letters) && !text.contains(data))
-                QCOMPARE(after.at(index)->property(property).toString(), tool.mockSwedish(text));
-        }
-    }
 }
 
 QTEST_MAIN(TestSquishTest)

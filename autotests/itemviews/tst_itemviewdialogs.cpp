@@ -7,7 +7,6 @@
 #include "TestTreeWidget.h"
 #include "TestVNTableWidget.h"
 #include "TestVNTreeView.h"
-#include "TranslationFileTool.h"
 
 #include <VNCustomHeaderView.h>
 #include <VNDendrogramWidget.h>
@@ -31,7 +30,6 @@
 #include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 #include <QWindow>
 
 namespace {
@@ -87,8 +85,6 @@ class TestItemViewDialogs : public QObject
 private slots:
     void cleanup();
 
-    void mockLocaleLeavesNoEnglish();
-
     void tableSectionsNumberedAndCoded();
     void tableRemoveOnEmptyChangesNothing();
 
@@ -122,71 +118,6 @@ private:
 void TestItemViewDialogs::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-namespace {
-QDialog* createDialog(const QString& key)
-{
-    if (key == QLatin1String("table"))
-        return new TestVNTableWidget(nullptr);
-    if (key == QLatin1String("treeview"))
-        return new TestVNTreeView(nullptr);
-    if (key == QLatin1String("dendrogram"))
-        return new TestDendrogramWidget(nullptr);
-    if (key == QLatin1String("dnd"))
-        return new TestDragAndDrop(nullptr);
-    if (key == QLatin1String("joins"))
-        return new TestJoinsTable(nullptr);
-    if (key == QLatin1String("delegate"))
-        return new TestTreeItemDelegate(nullptr);
-    return new TestTreeWidget(nullptr);
-}
-
-QString textOf(QObject* object)
-{
-    for (const char* property : {"text", "title"}) {
-        const QVariant value = object->property(property);
-        if (value.isValid())
-            return value.toString();
-    }
-    return {};
-}
-} // namespace
-
-// Every text of the dialogs goes through translation: with the mock translation loaded, no text
-// that has letters may read as before.
-void TestItemViewDialogs::mockLocaleLeavesNoEnglish()
-{
-    if (!TWC_HAS_MOCK_TRANSLATION)
-        QSKIP("built without lupdate and lrelease");
-    const TranslationFileTool tool;
-    for (const char* key : {"table", "treeview", "dendrogram", "dnd", "joins", "delegate", "treewidget"}) {
-        std::unique_ptr<QDialog> english(createDialog(QString::fromLatin1(key)));
-        QTranslator translator;
-        QVERIFY(translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")));
-        QCoreApplication::installTranslator(&translator);
-        std::unique_ptr<QDialog> mocked(createDialog(QString::fromLatin1(key)));
-        QCoreApplication::removeTranslator(&translator);
-        QCOMPARE(mocked->windowTitle() == english->windowTitle(), false);
-        const QList<QWidget*> widgets = english->findChildren<QWidget*>();
-        for (QWidget* widget : widgets) {
-            const QString before = textOf(widget);
-            if (widget->objectName().isEmpty() || !before.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))))
-                continue;
-            auto* other = mocked->findChild<QWidget*>(widget->objectName());
-            QCOMPARE(textOf(other), tool.mockSwedish(before));
-        }
-        for (auto* tree : english->findChildren<QTreeWidget*>()) {
-            auto* other = mocked->findChild<QTreeWidget*>(tree->objectName());
-            for (int column = 0; column < tree->columnCount(); ++column) {
-                const QString header = tree->headerItem()->text(column);
-                if (header.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))))
-                    QCOMPARE(other->headerItem()->text(column), tool.mockSwedish(header));
-            }
-            if (tree->topLevelItemCount() > 0 && !tree->topLevelItem(0)->text(2).isEmpty())
-                QVERIFY(other->topLevelItem(0)->text(2) != tree->topLevelItem(0)->text(2));
-        }
-    }
 }
 
 void TestItemViewDialogs::tableSectionsNumberedAndCoded()
