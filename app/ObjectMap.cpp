@@ -1,5 +1,6 @@
 #include "ObjectMap.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QComboBox>
 #include <QJsonDocument>
@@ -109,6 +110,8 @@ QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath
     if (widget->isWindow())
         node.insert(QStringLiteral("windowGeometry"), rectObject(QRect(QPoint(), widget->size())));
     addTexts(widget, node);
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget); button && button->isCheckable())
+        node.insert(QStringLiteral("checked"), button->isChecked());
     const QJsonArray items = itemTexts(widget);
     if (!items.isEmpty())
         node.insert(QStringLiteral("items"), items);

@@ -52,7 +52,8 @@ QString quoted(QString text)
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
-// The path (ending in "/" for an unnamed widget), the classes down to QWidget and what it shows.
+// The path (ending in "/" for an unnamed widget), the classes down to QWidget, what it shows, and
+// whether it is checked and enabled.
 QString nodeLine(const QJsonObject& node)
 {
     QStringList classes = strings(node.value(QStringLiteral("classes")));
@@ -72,6 +73,10 @@ QString nodeLine(const QJsonObject& node)
             item = quoted(item);
         line += fieldSeparator + QStringLiteral("items=[%1]").arg(items.join(QLatin1String(", ")));
     }
+    if (node.contains(QStringLiteral("checked")))
+        line += fieldSeparator + (node.value(QStringLiteral("checked")).toBool() ? "checked" : "unchecked");
+    if (!node.value(QStringLiteral("enabled")).toBool())
+        line += fieldSeparator + QStringLiteral("disabled");
     return line;
 }
 

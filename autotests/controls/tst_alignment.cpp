@@ -13,8 +13,6 @@ class TestAlignmentDialog : public QObject
 private slots:
     void cleanup();
 
-    void threeButtonsCarryMenus_data();
-    void threeButtonsCarryMenus();
     void rowsShareEdges();
     void guidesRunAlongFieldEdges();
 };
@@ -22,37 +20,6 @@ private slots:
 void TestAlignmentDialog::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestAlignmentDialog::threeButtonsCarryMenus_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<int>("actions");
-    QTest::newRow("file") << "m_fileMenuButton"
-                          << "m_fileMenu" << 4;
-    QTest::newRow("edit") << "m_editMenuButton"
-                          << "m_editMenu" << 5;
-    QTest::newRow("view") << "m_viewMenuButton"
-                          << "m_viewMenu" << 3;
-}
-
-void TestAlignmentDialog::threeButtonsCarryMenus()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, menu);
-    QFETCH(int, actions);
-    TestAlignment dialog(nullptr);
-    QWidget* owner = dialog.findChild<QWidget*>(button);
-    QVERIFY(owner);
-    QMenu* attached = nullptr;
-    if (auto* pushButton = qobject_cast<QPushButton*>(owner))
-        attached = pushButton->menu();
-    else if (auto* toolButton = qobject_cast<QToolButton*>(owner))
-        attached = toolButton->menu();
-    QVERIFY(qobject_cast<VNMenu*>(attached));
-    QCOMPARE(attached->objectName(), menu);
-    QCOMPARE(attached->actions().size(), actions);
 }
 
 void TestAlignmentDialog::rowsShareEdges()

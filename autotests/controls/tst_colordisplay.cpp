@@ -59,9 +59,6 @@ void TestColorDisplayDialog::fieldsShowDisplayColour()
 {
     TestColorDisplay dialog(nullptr);
     Form form(&dialog);
-    QVERIFY(form.left->isChecked());
-    QVERIFY(!form.right->isChecked());
-    QVERIFY(!form.twoSides->isChecked());
     for (VNDoubleSpinBox* field : {form.red, form.green, form.blue}) {
         QCOMPARE(field->maximum(), 255.0);
         QCOMPARE(field->formatter()->decimals(), 0);

@@ -222,15 +222,9 @@ void ComboBoxTest::numberComboItems()
     auto* numbers = child<VNComboBox>(&dialog, "vnDoubleComboBox");
     QVERIFY(qobject_cast<VNValueEdit*>(numbers->lineEdit()));
     QCOMPARE(numbers->insertPolicy(), QComboBox::NoInsert);
-    VNFormatter plain;
-    QStringList expected;
-    for (double value : {0.1, 0.2, 0.5, 1.0, 10.0})
-        expected << plain.textFromValue(value, false);
-    QCOMPARE(texts(numbers), expected);
-    QCOMPARE(expected.at(2).toDouble(), 0.5);
+    // The items' texts are in the object-map baseline; what they stand for is not.
+    QCOMPARE(VNFormatter().valueFromText(numbers->itemText(2)), 0.5);
     auto* millimetres = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
-    QCOMPARE(millimetres->count(), 4);
-    QVERIFY(millimetres->itemText(2).endsWith("mm"));
     QCOMPARE(millimetres->formatter()->valueFromText(millimetres->itemText(2)), 25.0);
 }
 
@@ -274,7 +268,6 @@ void ComboBoxTest::degreeSpecialValues()
     QFETCH(QString, output);
     TestComboBox dialog(nullptr);
     auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
-    QCOMPARE(texts(degrees), QStringList({"Automatic Direction", "X", "Y"}));
     clickButton(&dialog, "add");
     degrees->setCurrentIndex(index);
     emit degrees->activated(index);

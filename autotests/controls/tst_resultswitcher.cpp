@@ -35,7 +35,6 @@ private slots:
     void cleanup();
 
     void insertionOrder();
-    void menusOnButtons();
     void partsAreSeparated();
     void enableCheckBoxReachesEveryButton();
     void countsAreNotRefreshed();
@@ -61,20 +60,6 @@ void TestResultSwitcher::insertionOrder()
     QCOMPARE(buttonTexts(multi).last(), QStringLiteral("Test 9"));
     QCOMPARE(multi->part(4), 0);
     QCOMPARE(multi->part(5), 1);
-}
-
-void TestResultSwitcher::menusOnButtons()
-{
-    TestVNResultSwitcher dialog(nullptr);
-    auto* switcher = dialog.findChild<VNResultSwitcher*>("m_resultSwitcher");
-    const bool hasMenu[] = {false, true, false, true};
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(switcher->button(i)->menu() != nullptr, hasMenu[i]);
-        if (hasMenu[i]) {
-            QCOMPARE(switcher->button(i)->popupMode(), QToolButton::MenuButtonPopup);
-            QCOMPARE(switcher->button(i)->menu()->actions().first()->text(), QStringLiteral("Action 2"));
-        }
-    }
 }
 
 void TestResultSwitcher::partsAreSeparated()

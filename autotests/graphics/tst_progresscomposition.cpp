@@ -73,7 +73,6 @@ void TestProgressCompositionDialog::initialSettingsAndDefaultSize()
     QCOMPARE(form.ops->maximum(), 50);
     QCOMPARE(form.ops->value(), 3);
     QCOMPARE(form.current->minimum(), -1);
-    QVERIFY(form.circular->isChecked());
     QVERIFY(form.bar->isCircular());
     dialog.resize(700, 500);
     form.button(&dialog, "resizeDefault")->click();

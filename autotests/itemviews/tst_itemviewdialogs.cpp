@@ -398,10 +398,6 @@ void TestItemViewDialogs::joinsRowsAndRadioPaths()
 {
     TestJoinsTable dialog(nullptr);
     VNDragTreeWidget* table = dialog.table();
-    QCOMPARE(table->columnCount(), 6);
-    const QStringList labels{"Use", "Order", "Name", "Path 1", "Path 2", "Path 3"};
-    for (int column = 0; column < 6; ++column)
-        QCOMPARE(table->headerItem()->text(column), labels.at(column));
     QCOMPARE(table->topLevelItemCount(), 10);
     for (int i = 1; i <= 10; ++i) {
         QTreeWidgetItem* item = table->topLevelItem(i - 1);
@@ -498,8 +494,6 @@ void TestItemViewDialogs::treeItemDelegateRows()
 {
     TestTreeItemDelegate dialog(nullptr);
     VNDragTreeWidget* tree = dialog.tree();
-    QCOMPARE(tree->headerItem()->text(0), QStringLiteral("Col 0 "));
-    QCOMPARE(tree->headerItem()->text(1), QStringLiteral("Column 1"));
     QTreeWidgetItem* parent1 = tree->topLevelItem(0);
     QVERIFY(parent1->isExpanded());
     QVERIFY(!(parent1->flags() & Qt::ItemIsSelectable));

@@ -97,10 +97,7 @@ private slots:
 
     void headerAndRows()
     {
-        QTreeWidgetItem* header = m_tree->headerItem();
-        QCOMPARE(header->text(0), QStringLiteral("v VNEditPreventionDelegate"));
-        QCOMPARE(header->text(4), QStringLiteral("Col4 with very long name"));
-        QCOMPARE(header->toolTip(4), QStringLiteral("Different Tooltip"));
+        QCOMPARE(m_tree->headerItem()->toolTip(4), QStringLiteral("Different Tooltip"));
         const QStringList captions{"ColorBoxDelegate", "VNToolTipButtonDelegate", "IconToggleDelegate Check",
                                    "VNItemDelegate Check", "IconToggleDelegate Radio"};
         for (int row = 0; row < captions.size(); ++row)

@@ -17,9 +17,6 @@ void sendMouse(QWidget* widget, QEvent::Type type, QPoint position, Qt::MouseBut
     QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
-
-const QStringList fieldNames = {"m_vnDSpinBox",   "m_vnDSpinBox_1", "m_vnDSpinBox_2", "m_vnDSpinBox_4",
-                                "m_vnDSpinBox_8", "m_vnDSpinBox_9", "m_vnDSpinBox_6"};
 } // namespace
 
 class TestVirtualSliderDialog : public QObject
@@ -29,7 +26,6 @@ class TestVirtualSliderDialog : public QObject
 private slots:
     void cleanup();
 
-    void buddiesDisabledAtStart();
     void radioButtonEnablesOnlyItsField_data();
     void radioButtonEnablesOnlyItsField();
     void checkBoxTogglesItsField_data();
@@ -41,15 +37,6 @@ private slots:
 void TestVirtualSliderDialog::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestVirtualSliderDialog::buddiesDisabledAtStart()
-{
-    TestVirtualSlider dialog(nullptr);
-    for (const QString& name : fieldNames)
-        QVERIFY2(!child<VNDoubleSpinBox>(&dialog, name)->isEnabled(), qPrintable(name));
-    QVERIFY(child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_3")->isEnabled());
-    QVERIFY(!child<VNCheckBox>(&dialog, "m_vnCheckBox_2")->isEnabled());
 }
 
 void TestVirtualSliderDialog::radioButtonEnablesOnlyItsField_data()
