@@ -4,8 +4,6 @@
 #include "ReproducibleRun.h"
 #include "TranslationFileTool.h"
 
-#include <QComboBox>
-#include <QGroupBox>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QLineEdit>
@@ -208,7 +206,7 @@ private slots:
     void matchesBaseline_data();
     void matchesBaseline();
     void mockLocaleTranslatesEveryText();
-    void describesWhatRobotsAddress();
+    void describesWhereRobotsClick();
     void unwritableMapIsReported();
     void contactSheetEscapesTexts();
 
@@ -300,45 +298,28 @@ void ObjectMapTest::mockLocaleTranslatesEveryText()
              qPrintable(QStringLiteral("texts that stay English:\n") + untranslated.join(QLatin1Char('\n'))));
 }
 
-void ObjectMapTest::describesWhatRobotsAddress()
+// Where a robot clicks, which the baseline leaves out: geometry in the parent and in the window,
+// through unnamed containers that add no step to the path.
+void ObjectMapTest::describesWhereRobotsClick()
 {
     QWidget window;
     window.setObjectName(QStringLiteral("form"));
-    window.setWindowTitle(QStringLiteral("Form"));
     auto* unnamed = new QWidget(&window);
-    auto* group = new QGroupBox(QStringLiteral("Limits"), unnamed);
-    group->setObjectName(QStringLiteral("limitsBox"));
-    auto* edit = new QLineEdit(QStringLiteral("12.5"), group);
+    auto* edit = new QLineEdit(unnamed);
     edit->setObjectName(QStringLiteral("minimumEdit"));
     edit->setGeometry(4, 20, 80, 24);
-    edit->setEnabled(false);
-    auto* units = new QComboBox(group);
-    units->addItems({QStringLiteral("mm"), QStringLiteral("inch")});
     unnamed->move(10, 5);
-    group->move(3, 0);
     window.show();
 
-    const QJsonObject root = ObjectMap::describe(&window, QString());
-    QCOMPARE(root.value(QStringLiteral("windowTitle")).toString(), QStringLiteral("Form"));
-    const QJsonObject box = childNamed(childNamed(root, QString()), QStringLiteral("limitsBox"));
-    QCOMPARE(box.value(QStringLiteral("path")).toString(), QStringLiteral("form/limitsBox"));
-    QCOMPARE(box.value(QStringLiteral("title")).toString(), QStringLiteral("Limits"));
-    QVERIFY(!box.contains(QStringLiteral("windowTitle")));
-    const QJsonArray boxChildren = box.value(QStringLiteral("children")).toArray();
-    QCOMPARE(boxChildren.last().toObject().value(QStringLiteral("items")).toArray(),
-             QJsonArray({QStringLiteral("mm"), QStringLiteral("inch")}));
-    const QJsonObject node = childNamed(box, QStringLiteral("minimumEdit"));
-    QCOMPARE(node.value(QStringLiteral("path")).toString(), QStringLiteral("form/limitsBox/minimumEdit"));
-    QCOMPARE(node.value(QStringLiteral("classes")).toArray(),
-             QJsonArray({QStringLiteral("QLineEdit"), QStringLiteral("QWidget"), QStringLiteral("QObject")}));
-    QCOMPARE(node.value(QStringLiteral("text")).toString(), QStringLiteral("12.5"));
-    QCOMPARE(node.value(QStringLiteral("enabled")).toBool(), false);
+    const QJsonObject node =
+        childNamed(childNamed(ObjectMap::describe(&window, QString()), QString()), QStringLiteral("minimumEdit"));
+    QCOMPARE(node.value(QStringLiteral("path")).toString(), QStringLiteral("form/minimumEdit"));
     QCOMPARE(node.value(QStringLiteral("visible")).toBool(), true);
     const QJsonObject geometry = node.value(QStringLiteral("geometry")).toObject();
     QCOMPARE(geometry.value(QStringLiteral("x")).toInt(), 4);
     QCOMPARE(geometry.value(QStringLiteral("width")).toInt(), 80);
     const QJsonObject inWindow = node.value(QStringLiteral("windowGeometry")).toObject();
-    QCOMPARE(inWindow.value(QStringLiteral("x")).toInt(), 17);
+    QCOMPARE(inWindow.value(QStringLiteral("x")).toInt(), 14);
     QCOMPARE(inWindow.value(QStringLiteral("y")).toInt(), 25);
 }
 

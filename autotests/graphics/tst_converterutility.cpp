@@ -74,7 +74,6 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void settings();
     void conversion_data();
     void conversion();
     void incompleteChoices();
@@ -95,22 +94,6 @@ void TestConverterUtilityFrame::initTestCase()
 void TestConverterUtilityFrame::cleanup()
 {
     qDeleteAll(QApplication::topLevelWidgets());
-}
-
-void TestConverterUtilityFrame::settings()
-{
-    const Varnis::TestConverterConfig config;
-    QString caption;
-    QString filter;
-    QString key;
-    config.getInputFileSettings(caption, filter, key);
-    QCOMPARE(caption, QStringLiteral("Select test input file"));
-    QCOMPARE(filter, QStringLiteral("Text files (*.txt)"));
-    QCOMPARE(key, QStringLiteral("Test"));
-    config.getOutputDirectorySettings(caption, key);
-    QCOMPARE(caption, QStringLiteral("Select test output directory"));
-    QCOMPARE(key, QStringLiteral("Test"));
-    QVERIFY(!config.getPathProvider());
 }
 
 void TestConverterUtilityFrame::conversion_data()

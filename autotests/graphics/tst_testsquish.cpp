@@ -37,11 +37,6 @@ QWidget* showPage(QWidget& dialog, const QString& page)
     return tabs(dialog)->currentWidget();
 }
 
-void clickButton(QWidget& dialog, const QString& name)
-{
-    ::clickButton(&dialog, name);
-}
-
 QString stateLabel(QWidget& dialog)
 {
     return child<QLabel>(&dialog, QStringLiteral("m_stateLabel"))->text();
@@ -150,7 +145,7 @@ void TestSquishTest::applyWord()
     const int dominant = VNWidgetStatus::getDominantStatusFromFlag(Flags(word));
     for (int index = 0; index < tabs(dialog)->count(); ++index) {
         tabs(dialog)->setCurrentIndex(index);
-        clickButton(dialog, qPrintable(button));
+        clickButton(&dialog, qPrintable(button));
         QCOMPARE(stateLabel(dialog), VNWidgetStatus::debugStatusFlag(Flags(word)));
         const QString mismatch =
             firstMismatch(tabs(dialog)->currentWidget()->findChildren<QWidget*>(), word, dominant, word);
@@ -169,7 +164,7 @@ void TestSquishTest::familySpotChecks()
     QLocale::setDefault(previous);
     QWidget* misc = showPage(dialog, QStringLiteral("tabMisc"));
     auto* empty = new VNResultSwitcher(misc);
-    clickButton(dialog, "standardLockedStateButton");
+    clickButton(&dialog, "standardLockedStateButton");
     QCOMPARE(empty->count(), 0);
     QCOMPARE(int(VNWidgetStatus::statusFromProperty(empty)), 0x23000);
     auto* switcher = dialog.findChild<VNResultSwitcher*>(QStringLiteral("m_resultSwitcher"));
@@ -184,7 +179,7 @@ void TestSquishTest::familySpotChecks()
     QCOMPARE(calendar->selectedDate(), QDate(2022, 4, 1));
 
     QWidget* navigation = showPage(dialog, QStringLiteral("tabNavigation"));
-    clickButton(dialog, "standardChangedLockedStateButton");
+    clickButton(&dialog, "standardChangedLockedStateButton");
     const QList<VNAnimatedTabBar*> bars = navigation->findChildren<VNAnimatedTabBar*>();
     QVERIFY(!bars.isEmpty());
     for (VNAnimatedTabBar* bar : bars) {
@@ -207,15 +202,15 @@ void TestSquishTest::compareTogglesOnlyItsBit()
     for (int index = 0; index < tabs(dialog)->count(); ++index) {
         tabs(dialog)->setCurrentIndex(index);
         const QList<QWidget*> below = tabs(dialog)->currentWidget()->findChildren<QWidget*>();
-        clickButton(dialog, "standardChangedLockedStateButton");
+        clickButton(&dialog, "standardChangedLockedStateButton");
         compare->click();
         QVERIFY(compare->isChecked());
         QCOMPARE(firstMismatch(below, 0x33800, 0x800, 0x800), QString());
         QCOMPARE(stateLabel(dialog), firstToolkitText(below));
-        clickButton(dialog, "noStateButton");
+        clickButton(&dialog, "noStateButton");
         QCOMPARE(firstMismatch(below, 0x800, 0x800, 0x800), QString());
         QCOMPARE(stateLabel(dialog), QStringLiteral("compareDifferent"));
-        clickButton(dialog, "needInputStateButton");
+        clickButton(&dialog, "needInputStateButton");
         compare->click();
         QCOMPARE(firstMismatch(below, 0x20, 0, 0), QString());
         QCOMPARE(stateLabel(dialog), firstToolkitText(below));
@@ -236,20 +231,20 @@ void TestSquishTest::disableAndReadOnlyActOnCurrentPage()
     auto* lineEdit = dialog.findChild<QLineEdit*>(QStringLiteral("vnLineEdit"));
     auto* spinBox = dialog.findChild<QAbstractSpinBox*>(QStringLiteral("vnDoubleSpinBox_37"));
     QWidget* spinPage = showPage(dialog, QStringLiteral("tabDoubleSpinbox"));
-    clickButton(dialog, "disabledCheckBox");
+    clickButton(&dialog, "disabledCheckBox");
     for (QWidget* widget : spinPage->findChildren<QWidget*>())
         QVERIFY2(!widget->isEnabled(), qPrintable(describe(widget)));
     QVERIFY(spinPage->isEnabled() && lineEdit->isEnabled());
-    clickButton(dialog, "disabledCheckBox");
+    clickButton(&dialog, "disabledCheckBox");
     for (QWidget* widget : spinPage->findChildren<QWidget*>())
         QVERIFY2(widget->isEnabled(), qPrintable(describe(widget)));
 
-    clickButton(dialog, "readOnlyCheckbox");
+    clickButton(&dialog, "readOnlyCheckbox");
     QVERIFY(spinBox->isReadOnly() && !lineEdit->isReadOnly());
     showPage(dialog, QStringLiteral("tabInOut"));
-    clickButton(dialog, "readOnlyCheckbox"); // unchecked: this page stays as it is, the other one too
+    clickButton(&dialog, "readOnlyCheckbox"); // unchecked: this page stays as it is, the other one too
     QVERIFY(!lineEdit->isReadOnly() && spinBox->isReadOnly());
-    clickButton(dialog, "readOnlyCheckbox");
+    clickButton(&dialog, "readOnlyCheckbox");
     QVERIFY(lineEdit->isReadOnly());
 }
 
@@ -330,10 +325,10 @@ void TestSquishTest::wordsLookDistinct()
     QList<QImage> looks; // the words without, then with compare-differs
     for (int pass = 0; pass < 2; ++pass) {
         for (const StatusWord& word : statusWords()) {
-            clickButton(dialog, QLatin1String(word.button));
+            clickButton(&dialog, QLatin1String(word.button));
             looks << widget->grab().toImage();
         }
-        clickButton(dialog, "compareDifferentStateButton");
+        clickButton(&dialog, "compareDifferentStateButton");
     }
     const QVector<StatusWord>& words = statusWords();
     const int count = words.size();

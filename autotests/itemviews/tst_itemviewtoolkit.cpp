@@ -64,10 +64,6 @@ private slots:
     void headerSelection();
     void headerCheckBoxFollowsRows();
     void dfsIndexesFollowDepthFirstOrder();
-    void dropsOnlyAcceptedFormats_data();
-    void dropsOnlyAcceptedFormats();
-    void dragOnlyTreeRefusesDrops();
-    void sourceViewRefusesForeignDrops();
     void receiverDecidesDropAction();
     void moveOnDropReordersRows();
     void prepareDragFillsMimeData();
@@ -212,56 +208,6 @@ void TestItemViewToolkit::dfsIndexesFollowDepthFirstOrder()
     delete a1;
     QCOMPARE(tree.getDFSIndex(a2), 2);
     QCOMPARE(tree.itemAtDFSIndex(3), b);
-}
-
-void TestItemViewToolkit::dropsOnlyAcceptedFormats_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("registered") << "myMimeData" << true;
-    QTest::newRow("other") << "text/plain" << false;
-}
-
-void TestItemViewToolkit::dropsOnlyAcceptedFormats()
-{
-    QFETCH(QString, format);
-    QFETCH(bool, accepted);
-    VNTreeView view;
-    QStandardItemModel model;
-    view.setModel(&model);
-    view.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    view.resize(200, 200);
-    QSignalSpy drops(view.getDragAndDropManager(), &VNDragAndDropManager::sigDropEvent);
-    QMimeData data;
-    data.setData(format, "x");
-    const DragResult result = dragOver(&view, &data, QPoint(20, 20), true);
-    QCOMPARE(result.moveAccepted, accepted);
-    QCOMPARE(drops.count(), accepted ? 1 : 0);
-}
-
-void TestItemViewToolkit::dragOnlyTreeRefusesDrops()
-{
-    VNDragTreeWidget tree;
-    tree.setDragEnabled(true);
-    tree.setDragDropMode(QAbstractItemView::DragOnly);
-    tree.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    QSignalSpy drops(tree.getDragAndDropManager(), &VNDragAndDropManager::sigDropEvent);
-    QMimeData data;
-    data.setData(QStringLiteral("myMimeData"), "x");
-    QVERIFY(!dragOver(&tree, &data, QPoint(10, 10), true).dropAccepted);
-    QCOMPARE(drops.count(), 0);
-}
-
-void TestItemViewToolkit::sourceViewRefusesForeignDrops()
-{
-    VNTreeView view;
-    QStandardItemModel model;
-    view.setModel(&model);
-    view.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    view.getDragAndDropManager()->m_acceptExternalDrops = false;
-    QMimeData data;
-    data.setData(QStringLiteral("myMimeData"), "x");
-    QVERIFY(!dragOver(&view, &data, QPoint(10, 10), true).dropAccepted);
 }
 
 void TestItemViewToolkit::receiverDecidesDropAction()
