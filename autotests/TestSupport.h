@@ -1,13 +1,19 @@
 #pragma once
 
 // What the collection's tests share: finding a form's widgets by object name, clicking them as a
-// user does, and the toolkit's status words as the status gallery applies them. What a form shows
+// user does, dragging data onto a view, and the toolkit's status words as the status gallery
+// applies them. What a form shows
 // (names, classes, texts, titles) is checked once for every window by the object-map baseline
 // (tst_objectmap), not here.
 
 #include <VNWidgetStatus.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDropEvent>
+#include <QMouseEvent>
+#include <QTemporaryDir>
 #include <QTest>
 
 // The named descendant of `parent`; a missing one ends the test run with a message naming it,
@@ -28,6 +34,46 @@ inline void clickButton(const QObject* parent, const QString& name)
 {
     auto* button = child<QAbstractButton>(parent, name);
     QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(6, button->height() / 2));
+}
+
+// Sends a mouse event of a drag with the left button, as a window system does (QTest's moves
+// carry no held button): press, moves with the button held, release.
+inline void sendLeftButtonDrag(QWidget* widget, QEvent::Type type, QPoint position)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, position, widget->mapToGlobal(position), button, held, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+// Writes a file into the folder and returns its path.
+inline QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
+{
+    QFile file(dir.filePath(name));
+    file.open(QIODevice::WriteOnly);
+    file.write(content);
+    return file.fileName();
+}
+
+// Drags the data over the view's viewport to the position as Qt delivers it: the action the view
+// chose when the drag entered and moved there.
+inline Qt::DropAction moveAction(QAbstractItemView* view, const QMimeData* data, QPoint position)
+{
+    QDragEnterEvent enter(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &enter);
+    QDragMoveEvent move(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &move);
+    return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
+}
+
+// Drags the data there and drops it; returns whether the view took the drop.
+inline bool dropOn(QAbstractItemView* view, const QMimeData* data, QPoint position)
+{
+    moveAction(view, data, position);
+    QDropEvent drop(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
+    drop.setAccepted(false);
+    QApplication::sendEvent(view->viewport(), &drop);
+    return drop.isAccepted();
 }
 
 struct StatusWord

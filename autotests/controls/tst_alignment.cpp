@@ -1,7 +1,5 @@
 #include "TestAlignment.h"
 
-#include <VNMenu.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QTest>
@@ -13,29 +11,12 @@ class TestAlignmentDialog : public QObject
 private slots:
     void cleanup();
 
-    void rowsShareEdges();
     void guidesRunAlongFieldEdges();
 };
 
 void TestAlignmentDialog::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestAlignmentDialog::rowsShareEdges()
-{
-    TestAlignment dialog(nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    for (const char* row : {"Normal", "NeedInput", "ReadOnly", "Disabled"}) {
-        const QRect edit = dialog.findChild<QWidget*>(QStringLiteral("m_lineEdit%1").arg(row))->geometry();
-        const QRect field = dialog.findChild<QWidget*>(QStringLiteral("m_spinBox%1").arg(row))->geometry();
-        QCOMPARE(field.center().y(), edit.center().y());
-    }
-    const QRect top = dialog.findChild<QWidget*>("m_spinBoxNormal")->geometry();
-    const QRect bottom = dialog.findChild<QWidget*>("m_spinBoxDisabled")->geometry();
-    QCOMPARE(bottom.left(), top.left());
-    QCOMPARE(bottom.width(), top.width());
 }
 
 void TestAlignmentDialog::guidesRunAlongFieldEdges()

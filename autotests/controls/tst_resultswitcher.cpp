@@ -11,8 +11,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QElapsedTimer>
-#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -35,7 +33,6 @@ private slots:
     void cleanup();
 
     void insertionOrder();
-    void partsAreSeparated();
     void enableCheckBoxReachesEveryButton();
     void countsAreNotRefreshed();
     void buttonsAreExclusive();
@@ -60,18 +57,6 @@ void TestResultSwitcher::insertionOrder()
     QCOMPARE(buttonTexts(multi).last(), QStringLiteral("Test 9"));
     QCOMPARE(multi->part(4), 0);
     QCOMPARE(multi->part(5), 1);
-}
-
-void TestResultSwitcher::partsAreSeparated()
-{
-    TestVNResultSwitcher dialog(nullptr);
-    dialog.resize(500, 265);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    auto* multi = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherMulti");
-    const int inside = multi->button(4)->geometry().left() - multi->button(3)->geometry().right();
-    const int between = multi->button(5)->geometry().left() - multi->button(4)->geometry().right();
-    QVERIFY(between >= inside + VNResultSwitcher::partGap);
 }
 
 void TestResultSwitcher::enableCheckBoxReachesEveryButton()

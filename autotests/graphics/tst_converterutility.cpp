@@ -1,9 +1,9 @@
+#include "../TestSupport.h"
 #include "TestConverterConfig.h"
 #include "TestConverterUtility.h"
 #include "TestWidgetCollection.h"
 
 #include <FileConverterDialog.h>
-#include <FileName.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -15,14 +15,6 @@
 #include <QToolButton>
 
 namespace {
-QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
-{
-    QFile file(dir.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-    return file.fileName();
-}
-
 QStringList validMessages()
 {
     QStringList messages{"Start Convertion"};

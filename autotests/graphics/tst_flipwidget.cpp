@@ -1,7 +1,6 @@
 #include "TestFlipWidget.h"
 
 #include <FlipWidget.h>
-#include <LayoutVisualizationFilter.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>

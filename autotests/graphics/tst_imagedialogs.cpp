@@ -14,7 +14,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -33,14 +32,6 @@ QString writeImage(const QTemporaryDir& dir, const QString& name, const QSize& s
     image.fill(colour);
     image.save(dir.filePath(name));
     return dir.filePath(name);
-}
-
-QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
-{
-    QFile file(dir.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-    return file.fileName();
 }
 
 // The compose form's connection by name to a missing slot warns while the dialog is built.

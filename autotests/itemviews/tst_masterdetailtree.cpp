@@ -7,7 +7,6 @@
 #include <VNDragTreeWidget.h>
 #include <VNStackControllerWidget.h>
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>

@@ -4,7 +4,6 @@
 #include <PathShortener.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -48,8 +47,6 @@ void StringReducerTest::cleanup()
 void StringReducerTest::sampleData()
 {
     TestStringReducer dialog(nullptr);
-    QCOMPARE(child<QLineEdit>(&dialog, "lineEdit")->text(), samplePath);
-    QCOMPARE(child<QSpinBox>(&dialog, "m_width")->value(), 258);
     QVERIFY(field(&dialog)->text().isEmpty());
     QVERIFY(field(&dialog)->isReadOnly());
     // The width stays within what the field can show.

@@ -1,23 +1,13 @@
 #include "../TestSupport.h"
 #include "TestVirtualSlider.h"
 
-#include <VNCheckBox.h>
 #include <VNDoubleSpinBox.h>
 #include <VNLabel.h>
-#include <VNRadioButton.h>
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QTest>
-
-namespace {
-void sendMouse(QWidget* widget, QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-} // namespace
 
 class TestVirtualSliderDialog : public QObject
 {
@@ -90,10 +80,10 @@ void TestVirtualSliderDialog::cursorPositionWhileButtonHeld()
 {
     TestVirtualSlider dialog(nullptr);
     dialog.show();
-    sendMouse(&dialog, QEvent::MouseButtonPress, QPoint(300, 500), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(&dialog, QEvent::MouseMove, QPoint(312, 507), Qt::NoButton, Qt::LeftButton);
+    sendLeftButtonDrag(&dialog, QEvent::MouseButtonPress, QPoint(300, 500));
+    sendLeftButtonDrag(&dialog, QEvent::MouseMove, QPoint(312, 507));
     QCOMPARE(child<VNLabel>(&dialog, "vnLabel_5")->text(), QStringLiteral("Cursor pos: 312/507"));
-    sendMouse(&dialog, QEvent::MouseButtonRelease, QPoint(312, 507), Qt::LeftButton, Qt::NoButton);
+    sendLeftButtonDrag(&dialog, QEvent::MouseButtonRelease, QPoint(312, 507));
 }
 
 void TestVirtualSliderDialog::fieldValueCanBeDragged()
@@ -103,9 +93,9 @@ void TestVirtualSliderDialog::fieldValueCanBeDragged()
     auto* field = child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_3");
     QWidget* edit = field->findChild<QLineEdit*>();
     const double before = field->value();
-    sendMouse(edit, QEvent::MouseButtonPress, QPoint(10, 8), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(edit, QEvent::MouseMove, QPoint(30, 8), Qt::NoButton, Qt::LeftButton);
-    sendMouse(edit, QEvent::MouseButtonRelease, QPoint(30, 8), Qt::LeftButton, Qt::NoButton);
+    sendLeftButtonDrag(edit, QEvent::MouseButtonPress, QPoint(10, 8));
+    sendLeftButtonDrag(edit, QEvent::MouseMove, QPoint(30, 8));
+    sendLeftButtonDrag(edit, QEvent::MouseButtonRelease, QPoint(30, 8));
     QCOMPARE(field->value(), before + 5 * field->singleStep());
 }
 
