@@ -4,7 +4,6 @@
 #include <VNSlider.h>
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 

@@ -323,12 +323,14 @@ void TestSquishTest::wordsLookDistinct()
     }
     QVERIFY(widget && widget->isVisible());
     QList<QImage> looks; // the words without, then with compare-differs
+    // applyWord clicks every button with the mouse; here only the looks count, so the buttons'
+    // own click() is enough for the hundreds of clicks and keeps the test quick.
     for (int pass = 0; pass < 2; ++pass) {
         for (const StatusWord& word : statusWords()) {
-            clickButton(&dialog, QLatin1String(word.button));
+            child<QAbstractButton>(&dialog, QLatin1String(word.button))->click();
             looks << widget->grab().toImage();
         }
-        clickButton(&dialog, "compareDifferentStateButton");
+        child<QAbstractButton>(&dialog, QStringLiteral("compareDifferentStateButton"))->click();
     }
     const QVector<StatusWord>& words = statusWords();
     const int count = words.size();

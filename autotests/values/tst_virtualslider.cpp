@@ -6,7 +6,6 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QTest>
 
 class TestVirtualSliderDialog : public QObject
