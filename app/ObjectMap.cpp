@@ -107,8 +107,6 @@ QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath
                       rectObject(QRect(widget->mapTo(widget->window(), QPoint()), widget->size()))},
                      {QStringLiteral("visible"), widget->isVisible()},
                      {QStringLiteral("enabled"), widget->isEnabled()}};
-    if (widget->isWindow())
-        node.insert(QStringLiteral("windowGeometry"), rectObject(QRect(QPoint(), widget->size())));
     addTexts(widget, node);
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget); button && button->isCheckable())
         node.insert(QStringLiteral("checked"), button->isChecked());
