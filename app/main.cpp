@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "OffscreenMessageFilter.h"
 
 #include <QApplication>
 
@@ -60,6 +61,8 @@ int main(int argc, char* argv[])
     choosePlatform(argc, argv);
     fixReproducibleEnvironment(argc, argv);
     QApplication application(argc, argv);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        OffscreenMessageFilter::install();
     QApplication::setApplicationName(QStringLiteral("testwidgetcollection"));
     HostApplication host;
     const int code = host.start(QApplication::arguments());
