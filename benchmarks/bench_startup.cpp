@@ -44,13 +44,12 @@ void measureFromProcessStart(QTextStream& out)
     out << QString::fromUtf8(child.readAllStandardOutput());
 }
 
-// The buttons of the launcher table that open a window and come back: not the loupe, which opens
-// none, nor a window that runs to its end within the click.
+// The buttons of the launcher table that open a window: all but the loupe's.
 QList<QPushButton*> launcherButtons(QWidget* panel)
 {
     QList<QPushButton*> buttons;
     for (const LauncherTable::Entry& entry : LauncherTable::entries()) {
-        if (entry.policy == LauncherTable::Policy::Kept || entry.policy == LauncherTable::Policy::NewEachClick)
+        if (entry.policy != LauncherTable::Policy::MovesLoupe)
             buttons << panel->findChild<QPushButton*>(QLatin1String(entry.button));
     }
     return buttons;

@@ -19,7 +19,7 @@ public:
     {
         Kept,         // made on the first click and shown again on every later one
         NewEachClick, // a new window on every click, which the panel keeps until it goes
-        RunAtOnce,    // made anew and run to its end within the click
+        RunAtOnce,    // made anew on every click and its run operation called (which shows it)
         MovesLoupe,   // places the panel's one loupe into the latest visible window
     };
 
