@@ -54,6 +54,7 @@ void fixReproducibleEnvironment(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
 }
+
 // The collection paints with the raster engine only; loading the X server's OpenGL integration for
 // the first window would cost more than building the whole panel. A user's own choice stands.
 void skipOpenGlIntegration()
