@@ -119,6 +119,11 @@ void HostTest::unwritableScreenshotDirectory()
     const Run run = runHost({QStringLiteral("--screenshot"), dir.filePath(QStringLiteral("file/shots"))});
     QCOMPARE(run.exitCode, 1);
     QVERIFY(run.err.contains(QStringLiteral("cannot write")));
+    // A shot that cannot be written halfway through (a folder is in its place) fails the run.
+    QVERIFY(QDir(dir.path()).mkpath(QStringLiteral("shots/m_testSVG.png")));
+    const Run halfway = runHost({QStringLiteral("--screenshot"), dir.filePath(QStringLiteral("shots"))});
+    QCOMPARE(halfway.exitCode, 1);
+    QVERIFY(halfway.err.contains(QStringLiteral("m_testSVG.png")));
 }
 
 void HostTest::mockLocale()

@@ -1,10 +1,12 @@
 #include "LauncherTable.h"
 #include "Loupe.h"
 #include "TestWidgetCollection.h"
+#include "WindowWalk.h"
 
 #include <DebugStyleSheet.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -46,6 +48,7 @@ private slots:
     void raisedWindowComesToFront();
     void loupeFollowsLatestVisibleWindow();
     void destructorDeletesInspectionWindowsFirst();
+    void walkVisitsEachNewWindowOnceAndEndsModalOnes();
 };
 
 void LauncherPanelTest::cleanup()
@@ -178,6 +181,32 @@ void LauncherPanelTest::destructorDeletesInspectionWindowsFirst()
     }
     panel.reset();
     QCOMPARE(order, QStringList({"DebugStyleSheet", "DebugStateInfo", "QtTraining", "TestVNMessageBox"}));
+}
+
+// A click that shows a window and then runs another modally: the walk visits both once, in the
+// order of their names, from inside the modal loop, and then ends the modal one.
+void LauncherPanelTest::walkVisitsEachNewWindowOnceAndEndsModalOnes()
+{
+    QWidget panel;
+    auto* launch = new QPushButton(QStringLiteral("Open"), &panel);
+    QDialog modeless(&panel);
+    modeless.setObjectName(QStringLiteral("zeta"));
+    QDialog modal(&panel);
+    modal.setObjectName(QStringLiteral("alpha"));
+    int result = -1;
+    connect(launch, &QPushButton::clicked, this, [&] {
+        modeless.show();
+        result = modal.exec();
+    });
+    panel.show();
+    QStringList visited;
+    const bool goOn = WindowWalk(50).click(launch, [&](QWidget* window, int index) {
+        visited << QStringLiteral("%1 %2 %3").arg(index).arg(window->objectName()).arg(modal.isVisible());
+        return true;
+    });
+    QVERIFY(goOn);
+    QCOMPARE(visited, QStringList({"0 alpha 1", "1 zeta 1"}));
+    QCOMPARE(result, int(QDialog::Rejected));
 }
 
 QTEST_MAIN(LauncherPanelTest)
