@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "OffscreenMessageFilter.h"
 
 #include <QApplication>
 
@@ -49,8 +50,9 @@ void choosePlatform(int argc, char* argv[])
 }
 
 // Screenshots and object maps give the same pixels and geometry on every machine: one device pixel
-// per logical pixel (or as many as --scale asks for), 96 dots per inch for fonts, UTC, a fixed order of hashes, and
-// neither the user's style nor desktop theme, whatever the screen and the user's settings.
+// per logical pixel (or as many as --scale asks for), 96 dots per inch for fonts, UTC, a fixed
+// order of hashes, and neither the user's style nor desktop theme, whatever the screen and the
+// user's settings.
 void fixReproducibleEnvironment(int argc, char* argv[])
 {
     if (!isReproducibleRun(argc, argv))
@@ -71,13 +73,24 @@ void fixReproducibleEnvironment(int argc, char* argv[])
         qputenv("QT_SCALE_FACTOR", scale);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, scaled);
 }
+
+// The collection paints with the raster engine only; loading the X server's OpenGL integration for
+// the first window would cost more than building the whole panel. A user's own choice stands.
+void skipOpenGlIntegration()
+{
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+}
 } // namespace
 
 int main(int argc, char* argv[])
 {
     choosePlatform(argc, argv);
     fixReproducibleEnvironment(argc, argv);
+    skipOpenGlIntegration();
     QApplication application(argc, argv);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        OffscreenMessageFilter::install();
     QApplication::setApplicationName(QStringLiteral("testwidgetcollection"));
     HostApplication host;
     const int code = host.start(QApplication::arguments());

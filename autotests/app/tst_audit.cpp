@@ -1,4 +1,4 @@
-#include "ReproducibleEnvironment.h"
+#include "ReproducibleRun.h"
 
 #include <QFile>
 #include <QImage>
@@ -47,7 +47,7 @@ void AuditTest::writesReport()
     QVERIFY(QDir(reportDirectory).removeRecursively());
     QTemporaryDir home;
     QProcess host;
-    host.setProcessEnvironment(ReproducibleEnvironment::forHome(QDir(home.path())));
+    host.setProcessEnvironment(ReproducibleRun::environment(QDir(home.path())));
     host.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--audit"), reportDirectory});
     QVERIFY(host.waitForFinished(auditTimeoutMs));

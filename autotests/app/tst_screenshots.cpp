@@ -1,8 +1,6 @@
-#include "ReproducibleEnvironment.h"
+#include "ReproducibleRun.h"
 
-#include <QDir>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -74,7 +72,7 @@ private slots:
 private:
     bool takeScreenshots(const QProcessEnvironment& environment, const QString& directory,
                          const QStringList& options = {});
-    void acceptScreenshots(const QDir& references, const QDir& screenshots, const QStringList& filters);
+    void acceptScreenshots(QDir references, const QDir& screenshots, const QStringList& filters);
     QString screenshotPath(const QString& name) const;
 
     QTemporaryDir m_home;
@@ -85,20 +83,14 @@ private:
 bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, const QString& directory,
                                       const QStringList& options)
 {
-    QProcess host;
-    host.setProcessEnvironment(environment);
-    host.start(QStringLiteral(HOST_EXECUTABLE), QStringList{QStringLiteral("--screenshot"), directory} + options);
-    const bool ok = host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
-    if (!ok)
-        qWarning("%s", host.readAllStandardError().constData());
-    return ok;
+    return ReproducibleRun::runHost(environment, QStringList{QStringLiteral("--screenshot"), directory} + options);
 }
 
-void ScreenshotsTest::acceptScreenshots(const QDir& references, const QDir& screenshots, const QStringList& filters)
+void ScreenshotsTest::acceptScreenshots(QDir references, const QDir& screenshots, const QStringList& filters)
 {
     QVERIFY(references.mkpath(QStringLiteral(".")));
     for (const QString& name : screenshotNames(references))
-        QVERIFY(QDir(references).remove(name + QStringLiteral(".png")));
+        QVERIFY(references.remove(name + QStringLiteral(".png")));
     for (const QString& name : screenshotNames(screenshots, filters)) {
         const QString file = name + QStringLiteral(".png");
         QVERIFY2(QImage(screenshots.filePath(file)).save(references.filePath(file), "PNG", referenceQuality),
@@ -111,11 +103,10 @@ void ScreenshotsTest::acceptScreenshots(const QDir& references, const QDir& scre
 void ScreenshotsTest::initTestCase()
 {
     QVERIFY(m_home.isValid() && m_screenshots.isValid() && m_highDensityScreenshots.isValid());
-    QVERIFY2(QFile::exists(ReproducibleEnvironment::fontConfiguration()),
-             qPrintable(ReproducibleEnvironment::fontConfiguration()));
-    QVERIFY2(QFile::exists(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")),
+    QVERIFY2(QFile::exists(ReproducibleRun::fontConfiguration), qPrintable(ReproducibleRun::fontConfiguration));
+    QVERIFY2(QFile::exists(ReproducibleRun::fontFile),
              "the references show Debian's fonts-dejavu-core: install it with scripts/bootstrap.sh");
-    const QProcessEnvironment environment = ReproducibleEnvironment::forHome(QDir(m_home.path()));
+    const QProcessEnvironment environment = ReproducibleRun::environment(QDir(m_home.path()));
     QVERIFY2(takeScreenshots(environment, m_screenshots.path()), "the screenshot run failed");
     QVERIFY2(
         takeScreenshots(environment, m_highDensityScreenshots.path(), {QStringLiteral("--scale"), QStringLiteral("2")}),
@@ -188,7 +179,7 @@ void ScreenshotsTest::matchesReference()
 // A designer's own scaling, style, font resolution, language and time zone change nothing.
 void ScreenshotsTest::ignoresUserSettings()
 {
-    QProcessEnvironment environment = ReproducibleEnvironment::forHome(QDir(m_home.path()));
+    QProcessEnvironment environment = ReproducibleRun::environment(QDir(m_home.path()));
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
     environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("Windows"));
     environment.insert(QStringLiteral("QT_FONT_DPI"), QStringLiteral("120"));

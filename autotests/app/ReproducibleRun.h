@@ -1,17 +1,16 @@
 #pragma once
 
+// The host application run that the screenshot and object-map baselines come from: a fixed
+// environment that sees neither the user's home, fonts, locale and time zone nor their Qt settings,
+// so that every machine gives the same windows.
+
 #include <QDir>
+#include <QProcess>
 #include <QProcessEnvironment>
 
-// The fixed environment in which the screenshot comparison and the look audit run the host: its
-// own home, C.UTF-8, UTC and only the fonts of Debian's fonts-dejavu-core, so that neither the
-// machine's nor the user's settings reach a pixel.
-namespace ReproducibleEnvironment {
-
-inline const QString fontConfiguration()
-{
-    return QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshot-fonts.conf");
-}
+namespace ReproducibleRun {
+const QString fontConfiguration = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshot-fonts.conf");
+const QString fontFile = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
 
 inline bool isMachineSetting(const QString& name)
 {
@@ -26,7 +25,7 @@ inline bool isMachineSetting(const QString& name)
     return false;
 }
 
-inline QProcessEnvironment forHome(const QDir& home)
+inline QProcessEnvironment environment(const QDir& home)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     const QStringList names = environment.keys();
@@ -43,8 +42,20 @@ inline QProcessEnvironment forHome(const QDir& home)
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral("cache")));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
-    environment.insert(QStringLiteral("FONTCONFIG_FILE"), fontConfiguration());
+    environment.insert(QStringLiteral("FONTCONFIG_FILE"), fontConfiguration);
     return environment;
 }
 
-} // namespace ReproducibleEnvironment
+// Runs the host application with the arguments; false (with its error output as a warning) when
+// it did not end successfully.
+inline bool runHost(const QProcessEnvironment& environment, const QStringList& arguments)
+{
+    QProcess host;
+    host.setProcessEnvironment(environment);
+    host.start(QStringLiteral(HOST_EXECUTABLE), arguments);
+    const bool ok = host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
+    if (!ok)
+        qWarning("%s", host.readAllStandardError().constData());
+    return ok;
+}
+} // namespace ReproducibleRun
