@@ -140,7 +140,7 @@ check_all() {
         need required has_qt_module Test -- qtbase5-dev "Qt 5 Test (CMake package Qt5Test)"
         need required has_qt_module UiTools -- qttools5-dev "Qt 5 UiTools (CMake package Qt5UiTools)"
         need required has_fonts -- fonts-dejavu-core "the DejaVu fonts in /usr/share/fonts/truetype/dejavu"
-        need required has_command clang-format -- clang-format "clang-format, for scripts/check-format.sh"
+        need optional has_command clang-format -- clang-format "clang-format, for scripts/check-format.sh"
         need optional has_command xvfb-run -- xvfb "xvfb-run, for the mouse-drag tests"
         need optional has_command xauth -- xauth "xauth, for xvfb-run"
     fi
@@ -187,7 +187,7 @@ if [ ${#missing_required[@]} -gt 0 ]; then
     report "${missing_required[@]}"
     if [ "$can_install" -eq 0 ]; then
         echo "bootstrap: cannot install them here (that takes apt-get, and root or sudo). Install them, or" \
-            "run with TWC_NO_BOOTSTRAP=1 to skip this check. A Qt 5.15 outside the system folders is found" \
+            "skip this check with --no-bootstrap (or TWC_NO_BOOTSTRAP=1). A Qt 5.15 outside the system folders is found" \
             "through CMAKE_PREFIX_PATH." >&2
     fi
     exit 1
