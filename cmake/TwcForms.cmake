@@ -20,4 +20,11 @@ function(twc_wrap_forms target)
     endforeach()
     qt5_wrap_ui(headers ${forms})
     target_sources(${target} PRIVATE ${headers})
+
+    # Build folders from before kept form headers in the target's autogen folder, which comes first
+    # on the include path: left there, they would hide every later edit of their form.
+    file(GLOB stale "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/include/ui_*.h")
+    if(stale)
+        file(REMOVE ${stale})
+    endif()
 endfunction()
