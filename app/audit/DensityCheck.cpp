@@ -66,11 +66,11 @@ void DensityCheck::checkWidget(QWidget* widget)
     if (auto* combo = qobject_cast<QComboBox*>(widget))
         checkIcon(widget, combo->itemIcon(combo->currentIndex()), combo->iconSize(), QStringLiteral("item icon"));
     if (auto* label = qobject_cast<QLabel*>(widget)) {
-        const QPixmap* pixmap = label->pixmap();
-        if (pixmap && !pixmap->isNull())
-            checkPixmap(widget, *pixmap,
+        const QPixmap pixmap = label->pixmap(Qt::ReturnByValue);
+        if (!pixmap.isNull())
+            checkPixmap(widget, pixmap,
                         label->hasScaledContents() ? label->contentsRect().size()
-                                                   : pixmap->size() / pixmap->devicePixelRatioF(),
+                                                   : pixmap.size() / pixmap.devicePixelRatioF(),
                         QStringLiteral("picture"));
     }
     if (qobject_cast<QAbstractItemView*>(widget))

@@ -33,13 +33,28 @@ int pressesBeforeLeaving(QWidget* widget)
     return view && view->tabKeyNavigation() ? maxPressesInOneView : 1;
 }
 
-// A text field that took the Tab as text gets its text back: the audit changes nothing.
-void undoTypedTab(QWidget* widget)
+QString typedText(QWidget* widget)
 {
     if (auto* edit = qobject_cast<QTextEdit*>(widget))
+        return edit->toPlainText();
+    if (auto* plain = qobject_cast<QPlainTextEdit*>(widget))
+        return plain->toPlainText();
+    return QString();
+}
+
+// A text field that took the Tab as text gets its text back: the audit changes nothing. Undo
+// is not enough, a field may have it switched off.
+void undoTypedTab(QWidget* widget, const QString& text)
+{
+    if (auto* edit = qobject_cast<QTextEdit*>(widget)) {
         edit->undo();
-    else if (auto* plain = qobject_cast<QPlainTextEdit*>(widget))
+        if (edit->toPlainText() != text)
+            edit->setPlainText(text);
+    } else if (auto* plain = qobject_cast<QPlainTextEdit*>(widget)) {
         plain->undo();
+        if (plain->toPlainText() != text)
+            plain->setPlainText(text);
+    }
 }
 
 // Tab enters a group of exclusive buttons (radio buttons) once; the arrow keys move within it.
@@ -128,9 +143,11 @@ void KeyboardCheck::walk(QWidget* start)
     m_findings.last().measured.insert(QStringLiteral("reached"), m_visited.size());
 }
 
-// Returns the widget that has the focus after Tab, or nullptr when the focus stayed.
+// Returns the widget that has the focus after Tab, or nullptr when the focus stayed although
+// Tab had somewhere else to go (or typed itself into a text field).
 QWidget* KeyboardCheck::pressTab(QWidget* focused)
 {
+    const QString text = typedText(focused);
     const int presses = pressesBeforeLeaving(focused);
     for (int press = 0; press < presses; ++press) {
         pressTabOn(focused);
@@ -138,8 +155,11 @@ QWidget* KeyboardCheck::pressTab(QWidget* focused)
         if (now != focused)
             return now;
     }
-    undoTypedTab(focused);
-    return nullptr;
+    const bool typed = typedText(focused) != text;
+    if (typed)
+        undoTypedTab(focused, text);
+    // The only tab stop of a window: Tab leaves it and comes straight back.
+    return typed || m_stops.size() > 1 ? nullptr : focused;
 }
 
 void KeyboardCheck::reportTrap(QWidget* stop)

@@ -35,6 +35,8 @@ const struct
     {"QTableView", {QAccessible::Table}},
     {"QListView", {QAccessible::List}},
     {"QGroupBox", {QAccessible::Grouping, QAccessible::CheckBox}},
+    // Qt announces a scroll area as a client area; its name says what it holds.
+    {"QScrollArea", {QAccessible::Client}},
 };
 
 QString roleName(Role role)
@@ -68,11 +70,25 @@ bool NameCheck::isVague(QAccessible::Role role)
            role == QAccessible::Window || role == QAccessible::Grouping || role == QAccessible::Whitespace;
 }
 
+// What a screen reader announces when the tab stop takes the focus: the widget that hands its
+// focus to the stop (a spin box to its line edit), unless that one is a mere container (a tab
+// widget hands it to its tab bar, which says more).
+QWidget* NameCheck::announced(QWidget* stop)
+{
+    QWidget* owner = TabStops::owner(stop);
+    if (owner == stop)
+        return owner;
+    QAccessibleInterface* ownerInterface = QAccessible::queryAccessibleInterface(owner);
+    QAccessibleInterface* stopInterface = QAccessible::queryAccessibleInterface(stop);
+    const bool ownerIsVague = !ownerInterface || isVague(ownerInterface->role());
+    return ownerIsVague && stopInterface && !isVague(stopInterface->role()) ? stop : owner;
+}
+
 QList<AuditFinding> NameCheck::run(const QString& windowName, QWidget* window)
 {
     QList<AuditFinding> findings;
     for (QWidget* stop : TabStops::of(window)) {
-        QWidget* owner = TabStops::owner(stop);
+        QWidget* owner = announced(stop);
         QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(owner);
         const QString name = accessible ? accessible->text(QAccessible::Name).trimmed() : QString();
         const Role role = accessible ? accessible->role() : QAccessible::NoRole;

@@ -21,5 +21,6 @@ public:
     static bool isVague(QAccessible::Role role);
 
 private:
+    static QWidget* announced(QWidget* stop);
     static AuditFinding finding(const QString& windowName, QWidget* owner, const QString& rule, const QString& message);
 };

@@ -111,7 +111,7 @@ void TestVNAnimatedTabBar::fillBars()
     addButton->setMenu(addMenu);
     addButton->setPopupMode(QToolButton::MenuButtonPopup);
     addButton->setDefaultAction(add);
-    m_opTabBar->addButton();
+    m_opTabBar->addButton()->setAccessibleName(tr("Tab bar button"));
 
     m_animatedTabBar->useMenuButton(3, true);
 

@@ -38,8 +38,11 @@ TestLayoutExample::TestLayoutExample(QWidget* parent)
 
     m_codeView = new QTextEdit(frame);
     m_codeView->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    m_codeView->setTabChangesFocus(true);
+    m_codeView->setAccessibleName(tr("Button source"));
     auto* lineEdit = new QLineEdit(tr("QLineEdit"), frame);
     lineEdit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    lineEdit->setAccessibleName(tr("Line edit"));
     m_button = new QPushButton(frame);
 
     auto* box = new QBoxLayout(QBoxLayout::LeftToRight);

@@ -120,11 +120,13 @@ void TestSVG::addItemRow(int index)
 
     auto* current = new VNLineEdit(replaceList);
     current->setReadOnly(true);
+    current->setAccessibleName(tr("Current text %1").arg(index + 1));
     current->setText(m_textItems.at(index));
     gridLayout->addWidget(current, row, 2);
 
     auto* replace = new VNLineEdit(replaceList);
     replace->setText(replacement);
+    replace->setAccessibleName(tr("Replacement %1").arg(index + 1));
     connect(replace, &QLineEdit::editingFinished, this, &TestSVG::onChanged);
     gridLayout->addWidget(replace, row, 3);
 }

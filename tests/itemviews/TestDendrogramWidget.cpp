@@ -23,6 +23,7 @@ TestDendrogramWidget::TestDendrogramWidget(QWidget* parent)
     setupUi(this);
     m_dendrogram = new Varnis::VNDendrogramWidget(this);
     m_dendrogram->setObjectName(QStringLiteral("m_dendrogram"));
+    m_dendrogram->setAccessibleName(tr("Dendrogram"));
     rebuildModel();
     m_dendrogram->setDragEnabled(true);
     VNDragAndDropManager* manager = m_dendrogram->getDragAndDropManager();

@@ -28,6 +28,9 @@ TestNewAssemblyImport::TestNewAssemblyImport(QWidget* parent)
     m_tree->setObjectName(QStringLiteral("m_tree"));
     m_searchField->setObjectName(QStringLiteral("m_searchField"));
     m_resetButton->setObjectName(QStringLiteral("m_resetButton"));
+    m_tree->setAccessibleName(tr("Assemblies"));
+    m_searchField->setAccessibleName(tr("Search"));
+    m_resetButton->setAccessibleName(tr("Reset Search"));
     QWidget* searchBar = createSearchBar();
     setUpTree();
     m_verticalLayout->addWidget(searchBar);

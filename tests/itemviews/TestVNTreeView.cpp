@@ -35,6 +35,7 @@ TestVNTreeView::TestVNTreeView(QWidget* parent)
     retainForever(m_targetModel);
     m_targetView = new VNTreeView(this);
     m_targetView->setObjectName(QStringLiteral("m_targetView"));
+    m_targetView->setAccessibleName(tr("Target"));
     m_targetView->setModel(m_targetModel);
     m_targetView->setDragEnabled(true);
     m_horizontalLayout->insertWidget(0, m_targetView);
@@ -42,6 +43,7 @@ TestVNTreeView::TestVNTreeView(QWidget* parent)
     m_sourceModel = new QStandardItemModel;
     m_sourceView = new VNTreeView(this);
     m_sourceView->setObjectName(QStringLiteral("m_sourceView"));
+    m_sourceView->setAccessibleName(tr("Source"));
     m_sourceView->setModel(m_sourceModel);
     m_sourceView->setDragEnabled(true);
     m_sourceView->setDragDropMode(QAbstractItemView::DragDrop);

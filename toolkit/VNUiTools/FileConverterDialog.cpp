@@ -58,9 +58,11 @@ FileConverterDialog::FileConverterDialog(FileConverterConfigurationInterface* co
 
     m_inputFile = new QLineEdit(this);
     m_inputFile->setObjectName(QStringLiteral("inputFile"));
+    m_inputFile->setAccessibleName(tr("Input file"));
     m_chooseInput = makeChooseButton(QStringLiteral("chooseInputFile"), this);
     m_outputDirectory = new QLineEdit(this);
     m_outputDirectory->setObjectName(QStringLiteral("outputDirectory"));
+    m_outputDirectory->setAccessibleName(tr("Output folder"));
     m_chooseOutput = makeChooseButton(QStringLiteral("chooseOutputDirectory"), this);
 
     auto* form = new QFormLayout;
@@ -69,6 +71,7 @@ FileConverterDialog::FileConverterDialog(FileConverterConfigurationInterface* co
 
     m_messageList = new QListWidget(this);
     m_messageList->setObjectName(QStringLiteral("messages"));
+    m_messageList->setAccessibleName(tr("Messages"));
     m_messageList->setWordWrap(true);
     m_outcome = new QLabel(this);
     m_outcome->setObjectName(QStringLiteral("outcome"));

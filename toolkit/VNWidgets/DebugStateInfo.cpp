@@ -91,8 +91,10 @@ DebugStateInfo::DebugStateInfo(QWidget* parent)
     m_windowTree = new QTreeWidget(this);
     m_windowTree->setObjectName(QStringLiteral("windowTree"));
     m_windowTree->setHeaderLabel(tr("Windows"));
+    m_windowTree->setAccessibleName(tr("Windows"));
     m_stateView = new QTreeWidget(this);
     m_stateView->setObjectName(QStringLiteral("stateView"));
+    m_stateView->setAccessibleName(tr("State"));
     m_stateView->setHeaderLabels({tr("Property"), tr("Value")});
     m_stateView->setRootIsDecorated(false);
     m_stateView->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);

@@ -20,6 +20,8 @@ DebugStyleSheet::DebugStyleSheet(QWidget* parent, bool readOnly)
 
     m_editor = new QPlainTextEdit(this);
     m_editor->setObjectName(QStringLiteral("styleSheetEdit"));
+    m_editor->setAccessibleName(tr("Style sheet"));
+    m_editor->setTabChangesFocus(true);
     m_editor->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_editor->setLineWrapMode(QPlainTextEdit::NoWrap);
     m_editor->setReadOnly(readOnly);

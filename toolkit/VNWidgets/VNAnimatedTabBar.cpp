@@ -115,6 +115,8 @@ QToolButton* VNAnimatedTabBar::addButton(const QIcon& icon, const QString& toolT
     button->setObjectName(QStringLiteral("tabBarButton"));
     button->setIcon(icon);
     button->setToolTip(toolTip);
+    if (!toolTip.isEmpty())
+        button->setAccessibleName(toolTip);
     button->setAutoRaise(true);
     m_buttons.append(button);
     button->show();

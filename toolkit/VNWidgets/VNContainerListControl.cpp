@@ -9,6 +9,7 @@ VNContainerListControl::VNContainerListControl(QWidget* parent)
     , m_tree(new VNDragTreeWidget(this))
 {
     m_tree->setObjectName(QStringLiteral("vnStackControllerTree"));
+    m_tree->setAccessibleName(tr("Containers"));
     m_tree->setColumnCount(1);
     m_tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
     auto* layout = new QVBoxLayout(this);

@@ -44,6 +44,7 @@ VNInfoArea::VNInfoArea(QWidget* parent)
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_infoButton->setObjectName(QStringLiteral("infoButton"));
+    m_infoButton->setAccessibleName(tr("More information"));
     m_infoButton->setIcon(QIcon(QStringLiteral(":/Style/VnWidgets/VNInfoArea/more.svg")));
     m_infoButton->setIconSize(QSize(16, 16));
     m_infoButton->setAutoRaise(true);

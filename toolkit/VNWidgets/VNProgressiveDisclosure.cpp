@@ -100,6 +100,7 @@ void VNProgressiveDisclosure::buildHead()
     m_stateLabel->setObjectName(QStringLiteral("stateLabel"));
     m_optionalCheck = new QCheckBox(this);
     m_optionalCheck->setObjectName(QStringLiteral("optionalCheck"));
+    m_optionalCheck->setAccessibleName(tr("Optional part visible"));
     m_optionalCheck->setChecked(true);
     connect(m_optionalCheck, &QCheckBox::toggled, this, [this] {
         updateParts();
@@ -107,6 +108,7 @@ void VNProgressiveDisclosure::buildHead()
     });
     m_infoButton = new QToolButton(this);
     m_infoButton->setObjectName(QStringLiteral("infoButton"));
+    m_infoButton->setAccessibleName(tr("Information"));
     m_infoButton->setIcon(QIcon(QStringLiteral(":/Style/VnWidgets/VNInfoArea/info.svg")));
     m_infoButton->setAutoRaise(true);
     connect(m_infoButton, &QToolButton::clicked, this, &VNProgressiveDisclosure::showInfo);

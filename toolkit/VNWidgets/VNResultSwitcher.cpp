@@ -44,6 +44,9 @@ QToolButton* VNResultSwitcher::insertButton(QToolButton* button, int index, int 
     button->setAutoRaise(true);
     button->setIconSize(buttonIconSize);
     button->setProperty(partProperty, part);
+    // An icon-only button is announced by its tool tip, as sighted users read it.
+    if (button->text().isEmpty() && button->accessibleName().isEmpty())
+        button->setAccessibleName(button->toolTip().isEmpty() ? tr("Result") : button->toolTip());
     if (index < 0 || index > m_buttons.size())
         index = m_buttons.size();
     m_buttons.insert(index, button);
