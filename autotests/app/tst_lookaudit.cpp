@@ -21,6 +21,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
@@ -175,6 +176,7 @@ void LookAuditTest::keyboard_data()
 {
     QTest::addColumn<Build>("build");
     QTest::addColumn<QStringList>("rules");
+    QTest::addColumn<int>("stops");
     const auto withField = [](const std::function<void(QWidget*)>& middle) {
         return Build([middle](QWidget* w) {
             add(w, new QLineEdit, "first");
@@ -182,30 +184,42 @@ void LookAuditTest::keyboard_data()
             add(w, new QLineEdit, "last");
         });
     };
-    QTest::newRow("text edit that keeps Tab")
-        << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle"); }) << QStringList{"middle:keeps-tab"};
+    QTest::newRow("text edit that keeps Tab") << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle"); })
+                                              << QStringList{"middle:keeps-tab"} << 3;
+    QTest::newRow("text edit without undo that keeps Tab")
+        << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle")->setUndoRedoEnabled(false); })
+        << QStringList{"middle:keeps-tab"} << 3;
+    QTest::newRow("the window's only text edit keeps Tab")
+        << Build([](QWidget* w) { add(w, new QTextEdit("text"), "only"); }) << QStringList{"only:keeps-tab"} << 1;
+    QTest::newRow("the window's only button: Tab comes straight back")
+        << Build([](QWidget* w) { add(w, new QPushButton("OK"), "only"); }) << QStringList{} << 1;
+    QTest::newRow("radio buttons of one group are one stop") << withField([](QWidget* w) {
+        add(w, new QRadioButton("A"), "a")->setChecked(true);
+        add(w, new QRadioButton("B"), "b");
+    }) << QStringList{} << 4;
     QTest::newRow("text edit that passes Tab on")
         << withField([](QWidget* w) { add(w, new QTextEdit("text"), "middle")->setTabChangesFocus(true); })
-        << QStringList{};
+        << QStringList{} << 3;
     QTest::newRow("focus that does not show")
-        << withField([](QWidget* w) { add(w, new Plain, "middle"); }) << QStringList{"middle:focus-invisible"};
+        << withField([](QWidget* w) { add(w, new Plain, "middle"); }) << QStringList{"middle:focus-invisible"} << 3;
     QTest::newRow("first widget's focus does not show") << Build([](QWidget* w) {
         add(w, new Plain, "first");
         add(w, new QLineEdit, "middle");
         add(w, new QLineEdit, "last");
-    }) << QStringList{"first:focus-invisible"};
+    }) << QStringList{"first:focus-invisible"} << 3;
     QTest::newRow("button whose focus shows")
-        << withField([](QWidget* w) { add(w, new QPushButton("OK"), "middle"); }) << QStringList{};
+        << withField([](QWidget* w) { add(w, new QPushButton("OK"), "middle"); }) << QStringList{} << 3;
 }
 
 void LookAuditTest::keyboard()
 {
     QFETCH(Build, build);
     QFETCH(QStringList, rules);
+    QFETCH(int, stops);
     const auto shown = window(build);
     KeyboardCheck check("window", shown.get());
     const QList<AuditFinding> findings = check.run();
-    QCOMPARE(check.tabStopCount(), 3);
+    QCOMPARE(check.tabStopCount(), stops);
     QCOMPARE(::rules(findings), rules);
     if (auto* edit = shown->findChild<QTextEdit*>())
         QCOMPARE(edit->toPlainText(), QStringLiteral("text")); // the Tab it kept is taken out again
