@@ -14,7 +14,7 @@ const QLatin1String rewriteMode("rewrite-tr");
 const QLatin1String treeOption("--tree");
 
 // The modes in the order of the dialog's list; rewrite-tr stands for its whole-project entry.
-const std::pair<QLatin1String, int> fileModes[] = {
+const std::pair<QLatin1String, TranslationRunner::Operation> fileModes[] = {
     {QLatin1String("fix"), TranslationRunner::FixTags},
     {QLatin1String("mock"), TranslationRunner::MockSwedish},
     {QLatin1String("count-braces"), TranslationRunner::CountBraces},
@@ -124,8 +124,9 @@ int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& f
         const bool withHeader = files.size() > 1 && mode != rewriteMode;
         if (withHeader && messageOnFailure)
             print(file + QLatin1Char(':'));
-        const TranslationRunner::Result result =
-            mode == rewriteMode ? runner.rewriteFile(file) : runner.runOnFile(operation, file);
+        const TranslationRunner::Result result = mode == rewriteMode
+                                                     ? runner.rewriteFile(file)
+                                                     : runner.runOnFile(TranslationRunner::Operation(operation), file);
         if (result.succeeded || messageOnFailure) {
             if (withHeader && !messageOnFailure)
                 print(file + QLatin1Char(':'));

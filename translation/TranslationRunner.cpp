@@ -1,5 +1,6 @@
 #include "TranslationRunner.h"
 
+#include "TranslationFileCounter.h"
 #include "TranslationFileTool.h"
 #include "TranslationMessages.h"
 
@@ -22,7 +23,7 @@ TranslationRunner::TranslationRunner(const TranslationFileTool& tool, Progress p
     , m_progress(std::move(progress))
 {}
 
-TranslationRunner::Result TranslationRunner::runOnFile(int operation, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::runOnFile(Operation operation, const QString& filePath) const
 {
     switch (operation) {
     case CountBraces:
@@ -37,7 +38,7 @@ TranslationRunner::Result TranslationRunner::runOnFile(int operation, const QStr
     }
 }
 
-TranslationRunner::Result TranslationRunner::count(int operation, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::count(Operation operation, const QString& filePath) const
 {
     QString content;
     const TextFileIo::Result read = m_tool.readText(filePath, &content);
@@ -48,14 +49,13 @@ TranslationRunner::Result TranslationRunner::count(int operation, const QString&
             TranslationMessages::braceCounts(content.count(QLatin1Char('<')), content.count(QLatin1Char('>')));
         break;
     case CountNumerus:
-        result.message = TranslationMessages::numerusCount(content.count(QLatin1String("numerus=\"yes\"")));
+        result.message = TranslationMessages::numerusCount(TranslationFileCounter::numerusIn(content));
         break;
     case CheckBraces:
-        result.message = TranslationMessages::braceCheck(m_tool.checkBracesInContent(content));
+        result.message = TranslationMessages::braceCheck(TranslationFileCounter::bracesBalanceIn(content));
         break;
     default:
-        result.message =
-            TranslationMessages::unfinishedCount(content.count(QLatin1String("<translation type=\"unfinished\">")));
+        result.message = TranslationMessages::unfinishedCount(TranslationFileCounter::unfinishedIn(content));
         break;
     }
     // An unreadable file counts as empty; the problem says why.
@@ -64,7 +64,7 @@ TranslationRunner::Result TranslationRunner::count(int operation, const QString&
     return result;
 }
 
-TranslationRunner::Result TranslationRunner::translate(int mode, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::translate(TranslationFileTool::Mode mode, const QString& filePath) const
 {
     report(TranslationMessages::processing());
     Result result;

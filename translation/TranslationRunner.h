@@ -1,10 +1,10 @@
 #pragma once
 
+#include "TranslationFileTool.h"
+
 #include <QString>
 
 #include <functional>
-
-class TranslationFileTool;
 
 // Runs one operation of the translation tool and words its outcome, for the dialog and for the
 // command line alike.
@@ -12,7 +12,7 @@ class TranslationRunner
 {
 public:
     // In the order of the dialog's mode list.
-    enum Operation
+    enum Operation : int
     {
         FixTags = 0,
         MockSwedish = 1,
@@ -40,7 +40,7 @@ public:
 
     // Runs an operation on one file; any operation but the counts, the brace check and mock
     // Swedish fixes the tags, as the dialog does. Never rewrites a tree.
-    Result runOnFile(int operation, const QString& filePath) const;
+    Result runOnFile(Operation operation, const QString& filePath) const;
     // Rewrites the tr( calls of one header or source file in place; the message stays empty.
     Result rewriteFile(const QString& filePath) const;
     // Rewrites every header and source file below root, skipping legacy directories; a root that
@@ -51,8 +51,8 @@ public:
 
 private:
     void report(const QString& message) const;
-    Result count(int operation, const QString& filePath) const;
-    Result translate(int mode, const QString& filePath) const;
+    Result count(Operation operation, const QString& filePath) const;
+    Result translate(TranslationFileTool::Mode mode, const QString& filePath) const;
 
     const TranslationFileTool& m_tool;
     Progress m_progress;

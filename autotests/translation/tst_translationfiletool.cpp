@@ -1,6 +1,9 @@
+#include "MockSwedishTranslator.h"
 #include "ScratchFiles.h"
+#include "TrCallRewriter.h"
 #include "TranslationFileTool.h"
 #include "TranslationOracle.h"
+#include "TsCorpus.h"
 
 #include <QDir>
 #include <QFile>
@@ -165,7 +168,10 @@ void TestTranslationFileTool::mockSwedish()
     QFETCH(QString, source);
     QFETCH(QString, expected);
     QCOMPARE(m_tool.mockSwedish(source), expected);
-    QCOMPARE(m_tool.mockSwedishUtf8(source.toUtf8()), expected.toUtf8());
+    MockSwedishTranslator translator;
+    const QByteArray utf8 = source.toUtf8();
+    const std::string_view bytes = translator.translateUtf8(std::string_view(utf8.constData(), size_t(utf8.size())));
+    QCOMPARE(QByteArray(bytes.data(), int(bytes.size())), expected.toUtf8());
     QCOMPARE(TranslationOracle::mockSwedish(source), expected);
 }
 
@@ -208,7 +214,7 @@ void TestTranslationFileTool::processTsFile()
     QFETCH(int, mode);
     QFETCH(QByteArray, expected);
     const QString path = writeFile(QStringLiteral("sample.ts"), input);
-    QVERIFY(m_tool.processTsFile(path, mode));
+    QVERIFY(m_tool.processTsFile(path, TranslationFileTool::Mode(mode)));
     QCOMPARE(readBytes(path + (mode == 0 ? ".fix" : ".swe")), expected);
     QCOMPARE(readBytes(path), input);
 }
@@ -229,7 +235,7 @@ void TestTranslationFileTool::rgFilesAreNotRead()
     QFETCH(bool, excluded);
     const QString path = writeFile(fileName, "<<source>a</source><translation>b</translation> numerus=\"yes\"");
     QCOMPARE(m_tool.readTranslationFile(path).isEmpty(), excluded);
-    QCOMPARE(m_tool.processTsFile(path, 0), !excluded);
+    QCOMPARE(m_tool.processTsFile(path, TranslationFileTool::FixTags), !excluded);
     QCOMPARE(QFileInfo::exists(path + ".fix"), !excluded);
     QCOMPARE(m_tool.countChar(path, '<'), excluded ? 0 : 5);
     QCOMPARE(m_tool.countString(path, "numerus=\"yes\""), excluded ? 0 : 1);
@@ -240,10 +246,10 @@ void TestTranslationFileTool::unusableInputGivesNoOutput()
 {
     const QString empty = writeFile(QStringLiteral("empty.ts"), QByteArray());
     const QString valid = writeFile(QStringLiteral("valid.ts"), "<source>a</source><translation>b</translation>");
-    QVERIFY(!m_tool.processTsFile(empty, 0));
-    QVERIFY(!m_tool.processTsFile(m_dir.filePath(QStringLiteral("missing.ts")), 1));
-    QVERIFY(!m_tool.processTsFile(m_dir.path(), 0));
-    QVERIFY(!m_tool.processTsFile(valid, 2));
+    QVERIFY(!m_tool.processTsFile(empty, TranslationFileTool::FixTags));
+    QVERIFY(!m_tool.processTsFile(m_dir.filePath(QStringLiteral("missing.ts")), TranslationFileTool::MockSwedish));
+    QVERIFY(!m_tool.processTsFile(m_dir.path(), TranslationFileTool::FixTags));
+    QVERIFY(!m_tool.processTsFile(valid, TranslationFileTool::Mode(2)));
     QVERIFY(!QFileInfo::exists(empty + ".fix"));
     QVERIFY(!QFileInfo::exists(valid + ".fix") && !QFileInfo::exists(valid + ".swe"));
     QCOMPARE(m_tool.countUnfinished(empty), 0);
@@ -253,7 +259,7 @@ void TestTranslationFileTool::unusableInputGivesNoOutput()
 
     const QString huge = writeFile(QStringLiteral("huge.ts"), "<source>a</source><translation>b</translation>");
     QVERIFY(QFile::resize(huge, qint64(129) * 1024 * 1024));
-    QVERIFY(!m_tool.processTsFile(huge, 0));
+    QVERIFY(!m_tool.processTsFile(huge, TranslationFileTool::FixTags));
 #ifdef Q_OS_UNIX
     QVERIFY(m_tool.readTranslationFile(QStringLiteral("/dev/zero")).isEmpty());
 #endif
@@ -264,7 +270,7 @@ void TestTranslationFileTool::failedWriteKeepsFiles()
     const QByteArray input = "<source>a</source><translation>b</translation>";
     const QString blocked = writeFile(QStringLiteral("blocked.ts"), input);
     QVERIFY(QDir().mkpath(blocked + ".fix"));
-    QVERIFY(!m_tool.processTsFile(blocked, 0));
+    QVERIFY(!m_tool.processTsFile(blocked, TranslationFileTool::FixTags));
     QVERIFY(QFileInfo(blocked + ".fix").isDir());
 
     const QString tsPath = writeFile(QStringLiteral("locked/x.ts"), input);
@@ -273,7 +279,7 @@ void TestTranslationFileTool::failedWriteKeepsFiles()
     const QString dir = QFileInfo(tsPath).path();
     QFile::setPermissions(dir, QFile::ReadOwner | QFile::ExeOwner);
     const bool enforced = !QFile(dir + "/probe").open(QIODevice::WriteOnly);
-    const bool tsWritten = m_tool.processTsFile(tsPath, 1);
+    const bool tsWritten = m_tool.processTsFile(tsPath, TranslationFileTool::MockSwedish);
     const bool cppWritten = m_tool.replaceTrCalls(cppPath);
     QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     if (!enforced)
@@ -395,7 +401,7 @@ void TestTranslationFileTool::encodingsFollowByteOrderMark()
     const QString ts = QString::fromUtf8("<TS>\r\n<source>Open file</source><translation>\xc3\xa4</translation>\r\n");
     const QString path = writeFile(QStringLiteral("wide.ts"), mark + encoded(codec, ts));
     QCOMPARE(m_tool.readTranslationFile(path), QString(ts).remove('\r'));
-    QVERIFY(m_tool.processTsFile(path, 1));
+    QVERIFY(m_tool.processTsFile(path, TranslationFileTool::MockSwedish));
     const QString mock = QString::fromUtf8(
         "<TS>\n<source>Open file</source><translation>\xc3\xbc\xc3\x98pee ffeele-\xc3\xa6</translation>\n");
     QCOMPARE(readBytes(path + ".swe"), mark + encoded(codec, mock));
@@ -422,7 +428,7 @@ void TestTranslationFileTool::undecodableInputIsRefused()
     QFETCH(QByteArray, content);
     QFETCH(QString, encoding);
     const QString ts = writeFile(QStringLiteral("broken.ts"), content);
-    const TextFileIo::Result processed = m_tool.processTs(ts, 1);
+    const TextFileIo::Result processed = m_tool.processTs(ts, TranslationFileTool::MockSwedish);
     QCOMPARE(int(processed.status), int(TextFileIo::Status::Undecodable));
     QCOMPARE(processed.detail, encoding);
     QVERIFY(!QFileInfo::exists(ts + ".swe"));
@@ -454,7 +460,8 @@ void TestTranslationFileTool::writesKeepFileIdentity()
     QCOMPARE(after.st_ino, before.st_ino);
     QCOMPARE(after.st_uid, before.st_uid);
     QCOMPARE(after.st_mode, before.st_mode);
-    QVERIFY(m_tool.processTsFile(writeFile(QStringLiteral("out.ts"), "<source>a</source><translation/>"), 0));
+    QVERIFY(m_tool.processTsFile(writeFile(QStringLiteral("out.ts"), "<source>a</source><translation/>"),
+                                 TranslationFileTool::FixTags));
 #else
     QSKIP("needs hard links and owners");
 #endif
@@ -484,8 +491,8 @@ void TestTranslationFileTool::failingWritesLoseNothing()
     {
         const FileSizeLimit full(rlim_t(limit > 0 ? limit : source.size()));
         rewrite = m_tool.rewriteTrCalls(cpp);
-        mock = m_tool.processTs(tsPath, 1);
-        fix = m_tool.processTs(tsPath, 0);
+        mock = m_tool.processTs(tsPath, TranslationFileTool::MockSwedish);
+        fix = m_tool.processTs(tsPath, TranslationFileTool::FixTags);
     }
     QCOMPARE(int(rewrite.status), int(TextFileIo::Status::WriteFailed));
     QVERIFY2(!rewrite.detail.isEmpty(), "the system's reason is given");
@@ -522,7 +529,7 @@ void TestTranslationFileTool::outputThatIsTheInputItself()
     const QString path = writeFile(QStringLiteral("linked%1%2.ts").arg(mode).arg(hardLink), ts);
     const QString output = path + (mode == 0 ? ".fix" : ".swe");
     QVERIFY(hardLink ? ::link(qPrintable(path), qPrintable(output)) == 0 : QFile::link(path, output));
-    QVERIFY(m_tool.processTsFile(path, mode));
+    QVERIFY(m_tool.processTsFile(path, TranslationFileTool::Mode(mode)));
     const QByteArray expected = TranslationOracle::processTsContent(QString::fromUtf8(ts), mode).toUtf8();
     QCOMPARE(readBytes(output), expected);
     QCOMPARE(readBytes(path), expected);
@@ -538,15 +545,16 @@ void TestTranslationFileTool::longOutputIsWrittenWholeOrNotAtAll()
     for (int entry = 0; entry < 5000; ++entry)
         ts += "<source>Save as " + QByteArray::number(entry) + "</source><translation>x</translation>\n";
     const QString path = writeFile(QStringLiteral("long.ts"), ts);
-    const QByteArray expected = m_tool.processTsContent(QString::fromUtf8(ts), 1).toUtf8();
-    QVERIFY(m_tool.processTsFile(path, 1));
+    const QByteArray expected =
+        TsFileRewriter().processContent(QString::fromUtf8(ts), TsFileRewriter::MockSwedish).toUtf8();
+    QVERIFY(m_tool.processTsFile(path, TranslationFileTool::MockSwedish));
     QCOMPARE(readBytes(path + ".swe"), expected);
 #ifdef Q_OS_UNIX
     const QString earlier = writeFile(QStringLiteral("long.ts.swe"), "earlier");
     TextFileIo::Result mock;
     {
         const FileSizeLimit full(rlim_t(expected.size() / 2));
-        mock = m_tool.processTs(path, 1);
+        mock = m_tool.processTs(path, TranslationFileTool::MockSwedish);
     }
     QCOMPARE(int(mock.status), int(TextFileIo::Status::WriteFailed));
     QCOMPARE(readBytes(earlier), QByteArray("earlier"));
@@ -560,13 +568,13 @@ void TestTranslationFileTool::sameOutputIsNotWrittenAgain()
     for (int entry = 0; ts.size() < 5 * 1024 * 1024; ++entry)
         ts += "<source>Open file " + QByteArray::number(entry) + "</source><translation>x</translation>\n";
     const QString path = writeFile(QStringLiteral("again.ts"), ts);
-    QVERIFY(m_tool.processTs(path, 0).changed);
+    QVERIFY(m_tool.processTs(path, TranslationFileTool::FixTags).changed);
     const QByteArray expected = readBytes(path + ".fix");
-    QVERIFY(!m_tool.processTs(path, 0).changed);
+    QVERIFY(!m_tool.processTs(path, TranslationFileTool::FixTags).changed);
     QByteArray changedNearEnd = expected;
     changedNearEnd[changedNearEnd.size() - 3] = 'y';
     writeFile(QStringLiteral("again.ts.fix"), changedNearEnd);
-    QVERIFY(m_tool.processTs(path, 0).changed);
+    QVERIFY(m_tool.processTs(path, TranslationFileTool::FixTags).changed);
     QCOMPARE(readBytes(path + ".fix"), expected);
 }
 
@@ -597,10 +605,7 @@ void TestTranslationFileTool::processDirectorySkipsLegacyAndLinks()
 void TestTranslationFileTool::matchesOracleOnCorpus_data()
 {
     QTest::addColumn<QString>("corpusFile");
-    QFileInfoList files;
-#ifdef TRANSLATION_CORPUS_DIR
-    files = QDir(QStringLiteral(TRANSLATION_CORPUS_DIR)).entryInfoList({QStringLiteral("*.ts")}, QDir::Files);
-#endif
+    const QFileInfoList files = TsCorpus::files();
     for (const QFileInfo& info : files)
         QTest::newRow(qPrintable(info.fileName())) << info.filePath();
     if (files.isEmpty())
@@ -619,11 +624,11 @@ void TestTranslationFileTool::matchesOracleOnCorpus()
     const QString content = m_tool.readTranslationFile(copy);
     QVERIFY(!content.isEmpty());
     for (int mode : {0, 1}) {
-        QVERIFY(m_tool.processTsFile(copy, mode));
+        QVERIFY(m_tool.processTsFile(copy, TranslationFileTool::Mode(mode)));
         QCOMPARE(readBytes(copy + (mode == 0 ? ".fix" : ".swe")),
                  TranslationOracle::processTsContent(content, mode).toUtf8());
     }
-    QCOMPARE(m_tool.replaceTrCallsInContent(content, "Ctx"), TranslationOracle::replaceTrCalls(content, "Ctx"));
+    QCOMPARE(TrCallRewriter().rewriteContent(content, "Ctx"), TranslationOracle::replaceTrCalls(content, "Ctx"));
 }
 
 void TestTranslationFileTool::matchesOracleOnRandomInput()
@@ -647,10 +652,10 @@ void TestTranslationFileTool::matchesOracleOnRandomInput()
         input.truncate(random.bounded(input.size() + 1));
         for (int mode : {0, 1}) {
             const QString expected = TranslationOracle::processTsContent(input, mode);
-            QCOMPARE(m_tool.processTsContent(input, mode), expected);
-            QCOMPARE(m_tool.processTsUtf8(input.toUtf8(), mode), expected.toUtf8());
+            QCOMPARE(TsFileRewriter().processContent(input, TsFileRewriter::Mode(mode)), expected);
+            QCOMPARE(TsFileRewriter().processUtf8(input.toUtf8(), TsFileRewriter::Mode(mode)), expected.toUtf8());
         }
-        QCOMPARE(m_tool.replaceTrCallsInContent(input, "C"), TranslationOracle::replaceTrCalls(input, "C"));
+        QCOMPARE(TrCallRewriter().rewriteContent(input, "C"), TranslationOracle::replaceTrCalls(input, "C"));
         QCOMPARE(m_tool.isBlank(input), TranslationOracle::isBlank(input));
     }
 }
