@@ -23,7 +23,8 @@ TranslationRunner::TranslationRunner(const TranslationFileTool& tool, Progress p
     , m_progress(std::move(progress))
 {}
 
-TranslationRunner::Result TranslationRunner::runOnFile(Operation operation, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::runOnFile(Operation operation, const QString& filePath,
+                                                       TranslationFileTool::Forms forms) const
 {
     switch (operation) {
     case CountBraces:
@@ -32,9 +33,9 @@ TranslationRunner::Result TranslationRunner::runOnFile(Operation operation, cons
     case CountUnfinished:
         return count(operation, filePath);
     case MockSwedish:
-        return translate(TranslationFileTool::MockSwedish, filePath);
+        return translate(TranslationFileTool::MockSwedish, forms, filePath);
     default:
-        return translate(TranslationFileTool::FixTags, filePath);
+        return translate(TranslationFileTool::FixTags, forms, filePath);
     }
 }
 
@@ -64,11 +65,12 @@ TranslationRunner::Result TranslationRunner::count(Operation operation, const QS
     return result;
 }
 
-TranslationRunner::Result TranslationRunner::translate(TranslationFileTool::Mode mode, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::translate(TranslationFileTool::Mode mode, TranslationFileTool::Forms forms,
+                                                       const QString& filePath) const
 {
     report(TranslationMessages::processing());
     Result result;
-    const TextFileIo::Result processed = m_tool.processTs(filePath, mode);
+    const TextFileIo::Result processed = m_tool.processTs(filePath, mode, forms);
     result.message = TranslationMessages::translated(processed.ok());
     if (!processed.ok())
         addProblem(result, TranslationMessages::fileProblem(processed));

@@ -39,8 +39,10 @@ public:
     explicit TranslationRunner(const TranslationFileTool& tool, Progress progress = Progress());
 
     // Runs an operation on one file; any operation but the counts, the brace check and mock
-    // Swedish fixes the tags, as the dialog does. Never rewrites a tree.
-    Result runOnFile(Operation operation, const QString& filePath) const;
+    // Swedish fixes the tags, as the dialog does. Never rewrites a tree. Mock Swedish keeps the
+    // numerus forms when asked to; the dialog never asks.
+    Result runOnFile(Operation operation, const QString& filePath,
+                     TranslationFileTool::Forms forms = TranslationFileTool::Forms::Flatten) const;
     // Rewrites the tr( calls of one header or source file in place; the message stays empty.
     Result rewriteFile(const QString& filePath) const;
     // Rewrites every header and source file below root, skipping legacy directories; a root that
@@ -52,7 +54,7 @@ public:
 private:
     void report(const QString& message) const;
     Result count(Operation operation, const QString& filePath) const;
-    Result translate(TranslationFileTool::Mode mode, const QString& filePath) const;
+    Result translate(TranslationFileTool::Mode mode, TranslationFileTool::Forms forms, const QString& filePath) const;
 
     const TranslationFileTool& m_tool;
     Progress m_progress;

@@ -19,8 +19,9 @@
   The literal rule replaces a whole translation with one text, which Qt's tools refuse for a
   numerus message (<message numerus="yes">): they want its <numerusform> children. With the forms
   kept, mock Swedish fills every <numerusform> of a numerus message with the mock text (writing one
-  when the message has none) and every <lengthvariant> of a translation or a form likewise; all
-  other bytes stay what the literal rule writes.
+  when the message has none) and every <lengthvariant> of a translation or a form likewise (a
+  translation that keeps length variants says variants="yes", as the format wants); all other
+  bytes stay what the literal rule writes.
 
   A .ts file in UTF-8 without a byte-order mark, the usual case, is never decoded: it is mapped into
   memory and processed as bytes, and its output refers to the unchanged runs of the input instead of

@@ -63,6 +63,8 @@ private Q_SLOTS:
     void mockSwedish();
     void processTsFile_data();
     void processTsFile();
+    void keepNumerusForms_data();
+    void keepNumerusForms();
     void rgFilesAreNotRead_data();
     void rgFilesAreNotRead();
     void unusableInputGivesNoOutput();
@@ -217,6 +219,59 @@ void TestTranslationFileTool::processTsFile()
     QVERIFY(m_tool.processTsFile(path, TranslationFileTool::Mode(mode)));
     QCOMPARE(readBytes(path + (mode == 0 ? ".fix" : ".swe")), expected);
     QCOMPARE(readBytes(path), input);
+}
+
+/*
+  Mock Swedish with the forms kept, worked out by hand: "Cancel" becomes "üCåncel", "%n file(s)"
+  becomes "ü%n ffeele(s)", "A" becomes "üA".
+*/
+void TestTranslationFileTool::keepNumerusForms_data()
+{
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("expected");
+    const QString numerus = "<message numerus=\"yes\"><source>Cancel</source><translation type=\"unfinished\">";
+    const QString plain = "<message><source>Cancel</source><translation type=\"unfinished\">";
+    const auto row = [](const char* name, const QString& input, const char* expected) {
+        QTest::newRow(name) << input << QString::fromUtf8(expected);
+    };
+    row("every form filled, blanks between kept",
+        "<message numerus=\"yes\"><source>%n file(s)</source><translation type=\"unfinished\">\n"
+        "<numerusform></numerusform> <numerusform>x</numerusform>\n</translation>",
+        "<message numerus=\"yes\"><source>%n file(s)</source><translation>\n"
+        "<numerusform>ü%n ffeele(s)</numerusform> <numerusform>ü%n ffeele(s)</numerusform>\n</translation>");
+    row("no form: one is written", numerus + "</translation>",
+        "<message "
+        "numerus=\"yes\"><source>Cancel</source><translation><numerusform>üCåncel</numerusform></translation>");
+    row("self-closing form", numerus + "<numerusform/></translation>",
+        "<message "
+        "numerus=\"yes\"><source>Cancel</source><translation><numerusform>üCåncel</numerusform></translation>");
+    row("a look-alike is no form", numerus + "<numerusforms>x</numerusforms></translation>",
+        "<message "
+        "numerus=\"yes\"><source>Cancel</source><translation><numerusform>üCåncel</numerusform></translation>");
+    row("length variants of a form",
+        numerus + "<numerusform variants=\"yes\"><lengthvariant>a</lengthvariant> "
+                  "<lengthvariant/></numerusform></translation>",
+        "<message numerus=\"yes\"><source>Cancel</source><translation><numerusform variants=\"yes\">"
+        "<lengthvariant>üCåncel</lengthvariant> <lengthvariant>üCåncel</lengthvariant></numerusform></translation>");
+    row("length variants of a translation", plain + "<lengthvariant>Abbrechen</lengthvariant></translation>",
+        "<message><source>Cancel</source><translation variants=\"yes\"><lengthvariant>üCåncel</lengthvariant>"
+        "</translation>");
+    row("forms without numerus: literal", plain + "<numerusform>x</numerusform></translation>",
+        "<message><source>Cancel</source><translation>üCåncel</translation>");
+    row("numerus ends with its message",
+        "<message numerus=\"yes\"><source>A</source><translation></translation></message>" + plain + "</translation>",
+        "<message numerus=\"yes\"><source>A</source><translation><numerusform>üA</numerusform></translation></message>"
+        "<message><source>Cancel</source><translation>üCåncel</translation>");
+}
+
+void TestTranslationFileTool::keepNumerusForms()
+{
+    QFETCH(QString, input);
+    QFETCH(QString, expected);
+    const auto keep = TsFileRewriter::Forms::Keep;
+    QCOMPARE(TsFileRewriter().processContent(input, TsFileRewriter::MockSwedish, keep), expected);
+    QCOMPARE(TsFileRewriter().processUtf8(input.toUtf8(), TsFileRewriter::MockSwedish, keep), expected.toUtf8());
+    QCOMPARE(TranslationOracle::processTsContent(input, 1, true), expected);
 }
 
 void TestTranslationFileTool::rgFilesAreNotRead_data()
@@ -628,6 +683,8 @@ void TestTranslationFileTool::matchesOracleOnCorpus()
         QCOMPARE(readBytes(copy + (mode == 0 ? ".fix" : ".swe")),
                  TranslationOracle::processTsContent(content, mode).toUtf8());
     }
+    QVERIFY(m_tool.processTs(copy, TranslationFileTool::MockSwedish, TranslationFileTool::Forms::Keep).ok());
+    QCOMPARE(readBytes(copy + ".swe"), TranslationOracle::processTsContent(content, 1, true).toUtf8());
     QCOMPARE(TrCallRewriter().rewriteContent(content, "Ctx"), TranslationOracle::replaceTrCalls(content, "Ctx"));
 }
 
@@ -638,7 +695,7 @@ void TestTranslationFileTool::matchesOracleOnRandomInput()
         QString::fromUtf8("<source>|</source>|<translation|>|</translation>|<translation>|<| |\n|"
                           "\t|\r|Open file|a|<source|</translation|type=\"unfinished\"|&lt;|"
                           "&amp;|html|<numerusform>|</numerusform>|<message numerus=\"yes\">|"
-                          "tr(|attr(|tr (|\xc3\xa4")
+                          "tr(|attr(|tr (|\xc3\xa4|<numerusform/>|<lengthvariant>|</lengthvariant>|<message>")
             .split('|')
         << QString(QChar(0));
     const QString message = "<message>\n    <source>Open &amp;file</source>\n"
@@ -650,10 +707,12 @@ void TestTranslationFileTool::matchesOracleOnRandomInput()
         for (int piece = random.bounded(30); piece > 0; --piece)
             input += random.bounded(4) == 0 ? message : fragments.at(random.bounded(alphabet));
         input.truncate(random.bounded(input.size() + 1));
-        for (int mode : {0, 1}) {
-            const QString expected = TranslationOracle::processTsContent(input, mode);
-            QCOMPARE(TsFileRewriter().processContent(input, TsFileRewriter::Mode(mode)), expected);
-            QCOMPARE(TsFileRewriter().processUtf8(input.toUtf8(), TsFileRewriter::Mode(mode)), expected.toUtf8());
+        for (int variant : {0, 1, 2}) { // fix, mock, mock with the forms kept
+            const auto mode = TsFileRewriter::Mode(std::min(variant, 1));
+            const auto forms = variant == 2 ? TsFileRewriter::Forms::Keep : TsFileRewriter::Forms::Flatten;
+            const QString expected = TranslationOracle::processTsContent(input, mode, variant == 2);
+            QCOMPARE(TsFileRewriter().processContent(input, mode, forms), expected);
+            QCOMPARE(TsFileRewriter().processUtf8(input.toUtf8(), mode, forms), expected.toUtf8());
         }
         QCOMPARE(TrCallRewriter().rewriteContent(input, "C"), TranslationOracle::replaceTrCalls(input, "C"));
         QCOMPARE(m_tool.isBlank(input), TranslationOracle::isBlank(input));

@@ -1,13 +1,16 @@
 #include "ScratchFiles.h"
 #include "TranslationCommandLine.h"
+#include "TsCorpus.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QScopeGuard>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextStream>
+#include <QTranslator>
 
 namespace {
 struct Run
@@ -37,6 +40,60 @@ QByteArray rewritten(const char* context)
 {
     return QByteArray("void f() { x = QApplication::translate(\"") + context + "\", \"A\"); }\n";
 }
+
+QString lrelease()
+{
+    for (const char* name : {"lrelease", "lrelease-qt5"}) {
+        const QString found = QStandardPaths::findExecutable(QString::fromLatin1(name));
+        if (!found.isEmpty())
+            return found;
+    }
+    return QStandardPaths::findExecutable(QStringLiteral("lrelease"), {QStringLiteral("/usr/lib/qt5/bin")});
+}
+
+// Mock Swedish of the file with its forms kept, compiled by lrelease: empty, or what went wrong.
+QString compileKeptForms(const QString& tsPath, const QString& qmPath)
+{
+    const Run mock = runInProcess({QStringLiteral("mock"), QStringLiteral("--keep-numerus"), tsPath});
+    const QString swe = tsPath + QStringLiteral(".swe.ts"); // lrelease reads only files named *.ts
+    if (mock.exitCode != 0 || !QFile::copy(tsPath + QStringLiteral(".swe"), swe))
+        return QStringLiteral("no mock output: ") + mock.err;
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(lrelease(), {swe, QStringLiteral("-qm"), qmPath});
+    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+        return QStringLiteral("lrelease failed: ") + QString::fromLocal8Bit(process.readAll());
+    return QString();
+}
+
+// What lupdate writes for a team translating into Swedish, and forms in other shapes.
+const QByteArray plurals = R"(<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="sv">
+<context>
+    <name>Dialog</name>
+    <message numerus="yes">
+        <source>%n file(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n folder(s)</source>
+        <translation type="unfinished"><numerusform/></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n item(s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation variants="yes"><lengthvariant>Abbrechen</lengthvariant><lengthvariant>Abbr.</lengthvariant></translation>
+    </message>
+</context>
+</TS>
+)";
 } // namespace
 
 class TwcTranslateTest : public QObject
@@ -60,6 +117,9 @@ private slots:
     void messagesMatchExitCodes_data();
     void messagesMatchExitCodes();
     void fullDiskAndReadOnlyFolder();
+    void lreleaseAcceptsKeptForms_data();
+    void lreleaseAcceptsKeptForms();
+    void compiledPluralsTranslate();
 
 private:
     QString writeFile(const QString& name, const QByteArray& content);
@@ -91,7 +151,7 @@ void TwcTranslateTest::help()
     const Run run = runInProcess(arguments);
     QCOMPARE(run.exitCode, 0);
     for (const char* mode : {"fix", "mock", "count-braces", "count-numerus", "check-braces", "count-unfinished",
-                             "rewrite-tr", "--tree", "VN_TRANSLATION_SOURCE_PATH"})
+                             "rewrite-tr", "--tree", "VN_TRANSLATION_SOURCE_PATH", "--keep-numerus", "lrelease"})
         QVERIFY2(run.out.contains(QLatin1String(mode)), mode);
     QVERIFY(run.err.isEmpty());
 }
@@ -105,6 +165,7 @@ void TwcTranslateTest::usageErrors_data()
     QTest::newRow("no file") << QStringList({"count-braces"}) << "no FILE given";
     QTest::newRow("unknown option") << QStringList({"fix", "--force", "a.ts"}) << "unknown option \"--force\"";
     QTest::newRow("tree with another mode") << QStringList({"fix", "--tree"}) << "--tree goes right after rewrite-tr";
+    QTest::newRow("forms kept in another mode") << QStringList({"fix", "--keep-numerus", "a.ts"}) << "with mock only";
     QTest::newRow("two tree roots") << QStringList({"rewrite-tr", "--tree", "a", "b"}) << "at most one DIR";
     QTest::newRow("tree without root") << QStringList({"rewrite-tr", "--tree"}) << "VN_TRANSLATION_SOURCE_PATH";
     QTest::newRow("option as tree root") << QStringList({"rewrite-tr", "--tree", "--all"}) << "unknown option";
@@ -344,6 +405,44 @@ void TwcTranslateTest::fullDiskAndReadOnlyFolder()
     QCOMPARE(readOnly.exitCode, 1);
     QVERIFY2(readOnly.err.contains(QStringLiteral("was left unchanged: the file is read-only.")),
              qPrintable(readOnly.err));
+}
+
+void TwcTranslateTest::lreleaseAcceptsKeptForms_data()
+{
+    QTest::addColumn<QString>("input");
+    for (const QFileInfo& file : TsCorpus::files())
+        QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+    QTest::newRow("generated plurals and variants") << QString();
+}
+
+void TwcTranslateTest::lreleaseAcceptsKeptForms()
+{
+    QFETCH(QString, input);
+    if (lrelease().isEmpty())
+        QSKIP("lrelease (Debian package qttools5-dev-tools) is not installed");
+    const QString ts = input.isEmpty() ? writeFile(QStringLiteral("plurals.ts"), plurals)
+                                       : writeFile(QFileInfo(input).fileName(), readBytes(input));
+    QCOMPARE(compileKeptForms(ts, m_dir->filePath(QStringLiteral("out.qm"))), QString());
+}
+
+// Every plural form and length variant holds the mock Swedish of its source. (A message with
+// fewer forms than its language has compiles too, but lrelease pads it with null forms, with which
+// Qt finds no translation at all.)
+void TwcTranslateTest::compiledPluralsTranslate()
+{
+    if (lrelease().isEmpty())
+        QSKIP("lrelease (Debian package qttools5-dev-tools) is not installed");
+    const QString qm = m_dir->filePath(QStringLiteral("plurals.qm"));
+    QCOMPARE(compileKeptForms(writeFile(QStringLiteral("plurals.ts"), plurals), qm), QString());
+    QTranslator translator;
+    QVERIFY(translator.load(qm) && QCoreApplication::installTranslator(&translator));
+    const auto translate = [](const char* source, int n) {
+        return QCoreApplication::translate("Dialog", source, nullptr, n);
+    };
+    QCOMPARE(translate("%n file(s)", 1), QString::fromUtf8("ü1 ffeele(s)"));
+    QCOMPARE(translate("%n file(s)", 5), QString::fromUtf8("ü5 ffeele(s)"));
+    QCOMPARE(translate("Cancel", -1).split(QChar(0x9c)), QString::fromUtf8("üCåncel üCåncel").split(QLatin1Char(' ')));
+    QCoreApplication::removeTranslator(&translator);
 }
 
 QTEST_MAIN(TwcTranslateTest)
