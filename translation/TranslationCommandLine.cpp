@@ -150,7 +150,7 @@ int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& f
                 print(result.message);
         }
         if (!result.succeeded) {
-            printProblem(result.problem);
+            printProblem(result.skipped.isEmpty() ? result.problem : result.skipped);
             exitCode = FileFailed;
         }
     }

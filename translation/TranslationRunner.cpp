@@ -1,5 +1,6 @@
 #include "TranslationRunner.h"
 
+#include "StandardOutput.h"
 #include "TranslationFileCounter.h"
 #include "TranslationFileTool.h"
 #include "TranslationMessages.h"
@@ -15,6 +16,22 @@ void addProblem(TranslationRunner::Result& result, const QString& problem)
     if (!result.problem.isEmpty())
         result.problem += QLatin1Char('\n');
     result.problem += problem;
+}
+
+void noteSkipped(const TextFileIo::Result& outcome)
+{
+    StandardOutput::printLine(TranslationMessages::fileProblem(outcome).toLocal8Bit());
+}
+
+void addFailure(TranslationRunner::Result& result, const TextFileIo::Result& outcome)
+{
+    if (outcome.status != TextFileIo::Status::Excluded) {
+        addProblem(result, TranslationMessages::fileProblem(outcome));
+        return;
+    }
+    result.succeeded = false;
+    result.skipped = TranslationMessages::fileProblem(outcome);
+    noteSkipped(outcome);
 }
 } // namespace
 
@@ -61,7 +78,7 @@ TranslationRunner::Result TranslationRunner::count(Operation operation, const QS
     }
     // An unreadable file counts as empty; the problem says why.
     if (!read.ok())
-        addProblem(result, TranslationMessages::fileProblem(read));
+        addFailure(result, read);
     return result;
 }
 
@@ -73,7 +90,7 @@ TranslationRunner::Result TranslationRunner::translate(TranslationFileTool::Mode
     const TextFileIo::Result processed = m_tool.processTs(filePath, mode, forms);
     result.message = TranslationMessages::translated(processed.ok());
     if (!processed.ok())
-        addProblem(result, TranslationMessages::fileProblem(processed));
+        addFailure(result, processed);
     return result;
 }
 
@@ -83,7 +100,7 @@ TranslationRunner::Result TranslationRunner::rewriteFile(const QString& filePath
     Result result;
     const TextFileIo::Result rewritten = m_tool.rewriteTrCalls(filePath);
     if (!rewritten.ok())
-        addProblem(result, TranslationMessages::fileProblem(rewritten));
+        addFailure(result, rewritten);
     return result;
 }
 
@@ -97,8 +114,10 @@ TranslationRunner::Result TranslationRunner::rewriteTree(const QString& root) co
     m_tool.processDirectory(
         root, [this](const QString& filePath) { report(TranslationMessages::processingFile(filePath)); },
         [&result](const TextFileIo::Result& done) {
-            // "Rg" files are left out of every walk on purpose.
-            if (!done.ok() && done.status != TextFileIo::Status::Excluded)
+            // "Rg" files are left out of every walk on purpose: no failure.
+            if (done.status == TextFileIo::Status::Excluded)
+                noteSkipped(done);
+            else if (!done.ok())
                 addProblem(result, TranslationMessages::fileProblem(done));
         });
     result.message = TranslationMessages::replacingFinished();

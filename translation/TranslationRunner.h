@@ -31,6 +31,9 @@ public:
         QString message; // what the dialog shows
         bool succeeded = true;
         QString problem; // why a file could not be processed, one line per file
+        // The note that a file was left out for its name ("Rg" or "rg"): it goes to standard output
+        // with the progress lines as it happens, never into the shown text.
+        QString skipped;
 
         // What the dialog shows: the message, followed by the problems when there are any.
         QString shownText() const;

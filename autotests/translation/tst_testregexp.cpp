@@ -2,23 +2,23 @@
 #include "TestRegExp.h"
 #include "TestWidgetCollection.h"
 
-#include <VNInfoArea.h>
-
 #include <QApplication>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
-#include <iterator>
+#include <cstdio>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <unistd.h>
 #endif
 
 namespace {
@@ -70,6 +70,39 @@ QByteArray readBytes(const QString& path)
 {
     return ScratchFiles::read(path);
 }
+
+#ifdef Q_OS_UNIX
+// Everything written to the process's standard output while it lives, the C library's and the
+// system's alike.
+class StandardOutputCapture
+{
+public:
+    StandardOutputCapture()
+    {
+        std::fflush(stdout);
+        m_file.open();
+        m_saved = ::dup(STDOUT_FILENO);
+        ::dup2(m_file.handle(), STDOUT_FILENO);
+    }
+    ~StandardOutputCapture() { finish(); }
+
+    QByteArray finish()
+    {
+        if (m_saved >= 0) {
+            std::fflush(stdout);
+            ::dup2(m_saved, STDOUT_FILENO);
+            ::close(m_saved);
+            m_saved = -1;
+        }
+        m_file.seek(0);
+        return m_file.readAll();
+    }
+
+private:
+    QTemporaryFile m_file;
+    int m_saved = -1;
+};
+#endif
 } // namespace
 
 class TestRegExpTest : public QObject
@@ -79,10 +112,11 @@ class TestRegExpTest : public QObject
 private slots:
     void init();
     void cleanup();
-    void form();
     void openedFromLauncher();
     void emptyPath_data();
     void emptyPath();
+    void skippedFileIsNotedOnStandardOutput_data();
+    void skippedFileIsNotedOnStandardOutput();
     void modeMessages_data();
     void modeMessages();
     void processingIsShownDuringWork();
@@ -127,51 +161,6 @@ QString TestRegExpTest::feedback(TestRegExp& dialog)
     return dialog.findChild<QTextBrowser*>(QStringLiteral("m_feedback"))->toPlainText();
 }
 
-// What robots rely on: object names, classes and texts, top to bottom.
-void TestRegExpTest::form()
-{
-    TestRegExp dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestRegExpClass"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestRegExp"));
-    QCOMPARE(dialog.minimumSize(), dialog.maximumSize());
-    QCOMPARE(dialog.size(), QSize(600, 313));
-    const struct
-    {
-        const char* name;
-        const char* className;
-        QString text;
-    } widgets[] = {
-        {"m_infoArea", "VNInfoArea", "We need this for the mock Swedish!"},
-        {"m_pathDisplay", "QLabel", QString()},
-        {"m_btnFileDialog", "QPushButton", "Choose file..."},
-        {"m_modeSelection", "QComboBox",
-         "Fix tags|Mock swedish|Count braces|Count numerus tags|"
-         "Check brace correctness|tr to translate in whole project|"
-         "Count untranslated strings"},
-        {"m_feedback", "QTextBrowser", QString()},
-        {"m_btnStart", "QPushButton", "Start"},
-    };
-    auto* layout = dialog.findChild<QVBoxLayout*>(QStringLiteral("verticalLayout_2"));
-    QCOMPARE(layout->count(), int(std::size(widgets)));
-    for (int index = 0; index < layout->count(); ++index) {
-        QWidget* widget = layout->itemAt(index)->widget();
-        QCOMPARE(widget->objectName(), QLatin1String(widgets[index].name));
-        QCOMPARE(widget->metaObject()->className(), widgets[index].className);
-        QString text;
-        if (auto* info = qobject_cast<VNInfoArea*>(widget))
-            text = info->text();
-        else if (auto* label = qobject_cast<QLabel*>(widget))
-            text = label->text();
-        else if (auto* button = qobject_cast<QPushButton*>(widget))
-            text = button->text();
-        else if (auto* modes = qobject_cast<QComboBox*>(widget))
-            for (int item = 0; item < modes->count(); ++item)
-                text += (item > 0 ? "|" : "") + modes->itemText(item);
-        QCOMPARE(text, widgets[index].text);
-    }
-    QCOMPARE(dialog.findChild<VNInfoArea*>()->iconType(), VNInfoArea::Info);
-}
-
 void TestRegExpTest::openedFromLauncher()
 {
     TestWidgetCollection panel(nullptr, Qt::WindowFlags());
@@ -184,20 +173,69 @@ void TestRegExpTest::openedFromLauncher()
 void TestRegExpTest::emptyPath_data()
 {
     QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("modeText");
     QTest::addColumn<QString>("message");
     const QString choose = QStringLiteral("Please choose a file path before starting the translation.");
-    for (int mode : {0, 1, 2, 3, 4, 6})
-        QTest::addRow("mode %d", mode) << mode << choose;
-    QTest::newRow("mode 5") << 5 << QStringLiteral("This feature is disabled.");
+    const char* modeTexts[] = {"Fix tags",
+                               "Mock swedish",
+                               "Count braces",
+                               "Count numerus tags",
+                               "Check brace correctness",
+                               "tr to translate in whole project",
+                               "Count untranslated strings"};
+    for (int mode = 0; mode < 7; ++mode)
+        QTest::addRow("mode %d", mode) << mode << modeTexts[mode]
+                                       << (mode == 5 ? QStringLiteral("This feature is disabled.") : choose);
 }
 
 void TestRegExpTest::emptyPath()
 {
     QFETCH(int, mode);
+    QFETCH(QString, modeText);
     QFETCH(QString, message);
     TestRegExp dialog(nullptr);
+    QCOMPARE(dialog.findChild<QComboBox*>(QStringLiteral("m_modeSelection"))->itemText(mode), modeText);
     start(dialog, mode, QString());
     QCOMPARE(feedback(dialog), message);
+}
+
+void TestRegExpTest::skippedFileIsNotedOnStandardOutput_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<QString>("progress");
+    const QString parsing = QStringLiteral("Start parsing ts files at: %1\n");
+    const QString failed = QStringLiteral("An error occurred. The file could not be translated.");
+    QTest::newRow("fix") << 0 << failed << parsing;
+    QTest::newRow("mock") << 1 << failed << parsing;
+    QTest::newRow("count braces") << 2 << "The file contains:\n0 opening braces and \n0 closing braces." << QString();
+    QTest::newRow("count numerus") << 3 << "The file contains:\n0 numerus cases." << QString();
+    QTest::newRow("check braces") << 4 << "The file's braces are correct." << QString();
+    QTest::newRow("count unfinished") << 6 << "0 strings are not translated yet." << QString();
+}
+
+// A file whose name starts with "Rg" or "rg" is never read: the result is the quoted message of the
+// mode alone, and the note why goes to standard output with the progress lines.
+void TestRegExpTest::skippedFileIsNotedOnStandardOutput()
+{
+#ifdef Q_OS_UNIX
+    QFETCH(int, mode);
+    QFETCH(QString, message);
+    QFETCH(QString, progress);
+    const QString path = writeFile(QStringLiteral("rgDialog.ts"), "<<source>a</source><translation>b</translation>");
+    TestRegExp dialog(nullptr);
+    StandardOutputCapture capture;
+    start(dialog, mode, path);
+    const QString printed = QString::fromLocal8Bit(capture.finish());
+    QCOMPARE(feedback(dialog), message);
+    QCOMPARE(printed, progress.replace(QStringLiteral("%1"), path) +
+                          QStringLiteral("\"%1\" was skipped: files whose names start with \"Rg\" or \"rg\" are never "
+                                         "read.\n")
+                              .arg(path));
+    QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList({"rgDialog.ts"}));
+#else
+    QSKIP("needs to redirect standard output");
+#endif
 }
 
 void TestRegExpTest::modeMessages_data()
