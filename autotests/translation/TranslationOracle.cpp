@@ -2,6 +2,59 @@
 
 #include <QRegExp>
 
+namespace {
+// The last "<message" between the previous entry and this one opens a tag with numerus="yes".
+bool isNumerusMessage(const QString& text, int from, int to)
+{
+    const int message = text.mid(from, to - from).lastIndexOf("<message");
+    QRegExp tag(QStringLiteral("<message[^>]*>"));
+    return message >= 0 && tag.indexIn(text, from + message) == from + message &&
+           tag.cap(0).contains("numerus=\"yes\"");
+}
+
+/*
+  Every element of that name gets the mock as its content, or a numerus form its length variants
+  filled: "<name" before '>', '/' or a blank opens an element, the next '>' ends its tag, and a tag
+  that does not end in "/>" runs to the next "</name>".
+*/
+QString fillElements(const QString& text, const QString& name, const QString& mock, bool* found)
+{
+    QRegExp open("<" + name + "([/ \\t\\n\\r][^>]*)?>");
+    const QString close = "</" + name + ">";
+    QString result = text;
+    *found = false;
+    for (int pos = open.indexIn(result, 0); pos != -1;) {
+        const QString tag = open.cap(0);
+        const bool selfClosing = tag.endsWith("/>");
+        const int contentBegin = pos + tag.length();
+        const int closeAt = selfClosing ? contentBegin : result.indexOf(close, contentBegin);
+        if (closeAt < 0)
+            break;
+        bool variants = false;
+        const QString inner =
+            name == "numerusform" && !selfClosing
+                ? fillElements(result.mid(contentBegin, closeAt - contentBegin), "lengthvariant", mock, &variants)
+                : QString();
+        const QString element = (selfClosing ? tag.chopped(2) + ">" : tag) + (variants ? inner : mock) + close;
+        result.replace(pos, closeAt + (selfClosing ? 0 : close.length()) - pos, element);
+        *found = true;
+        pos = open.indexIn(result, pos + element.length());
+    }
+    return result;
+}
+
+QString translationKeepingForms(const QString& translation, const QString& mock, bool numerus)
+{
+    bool found = false;
+    if (numerus) {
+        const QString forms = fillElements(translation, "numerusform", mock, &found);
+        return ">" + (found ? forms : "<numerusform>" + mock + "</numerusform>");
+    }
+    const QString variants = fillElements(translation, "lengthvariant", mock, &found);
+    return found ? " variants=\"yes\">" + variants : ">" + mock;
+}
+} // namespace
+
 QString TranslationOracle::processTsContent(const QString& content, int mode, bool keepForms)
 {
     QRegExp entry(QStringLiteral("(<source>(.*)</source>.*<translation)([^>]*)>(.*)</translation>"), Qt::CaseSensitive,
@@ -29,57 +82,6 @@ QString TranslationOracle::processTsContent(const QString& content, int mode, bo
         pos = entry.indexIn(text, previousEnd);
     }
     return text;
-}
-
-// The last "<message" between the previous entry and this one opens a tag with numerus="yes".
-bool TranslationOracle::isNumerusMessage(const QString& text, int from, int to)
-{
-    const int message = text.mid(from, to - from).lastIndexOf("<message");
-    QRegExp tag(QStringLiteral("<message[^>]*>"));
-    return message >= 0 && tag.indexIn(text, from + message) == from + message &&
-           tag.cap(0).contains("numerus=\"yes\"");
-}
-
-QString TranslationOracle::translationKeepingForms(const QString& translation, const QString& mock, bool numerus)
-{
-    bool found = false;
-    if (numerus) {
-        const QString forms = fillElements(translation, "numerusform", mock, &found);
-        return ">" + (found ? forms : "<numerusform>" + mock + "</numerusform>");
-    }
-    const QString variants = fillElements(translation, "lengthvariant", mock, &found);
-    return found ? " variants=\"yes\">" + variants : ">" + mock;
-}
-
-/*
-  Every element of that name gets the mock as its content, or a numerus form its length variants
-  filled: "<name" before '>', '/' or a blank opens an element, the next '>' ends its tag, and a tag
-  that does not end in "/>" runs to the next "</name>".
-*/
-QString TranslationOracle::fillElements(const QString& text, const QString& name, const QString& mock, bool* found)
-{
-    QRegExp open("<" + name + "([/ \\t\\n\\r][^>]*)?>");
-    const QString close = "</" + name + ">";
-    QString result = text;
-    *found = false;
-    for (int pos = open.indexIn(result, 0); pos != -1;) {
-        const QString tag = open.cap(0);
-        const bool selfClosing = tag.endsWith("/>");
-        const int contentBegin = pos + tag.length();
-        const int closeAt = selfClosing ? contentBegin : result.indexOf(close, contentBegin);
-        if (closeAt < 0)
-            break;
-        bool variants = false;
-        const QString inner =
-            name == "numerusform" && !selfClosing
-                ? fillElements(result.mid(contentBegin, closeAt - contentBegin), "lengthvariant", mock, &variants)
-                : QString();
-        const QString element = (selfClosing ? tag.chopped(2) + ">" : tag) + (variants ? inner : mock) + close;
-        result.replace(pos, closeAt + (selfClosing ? 0 : close.length()) - pos, element);
-        *found = true;
-        pos = open.indexIn(result, pos + element.length());
-    }
-    return result;
 }
 
 QString TranslationOracle::replaceTrCalls(const QString& content, const QString& context)

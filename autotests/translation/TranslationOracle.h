@@ -15,9 +15,4 @@ public:
     static QString replaceTrCalls(const QString& content, const QString& context);
     static QString mockSwedish(const QString& source);
     static bool isBlank(const QString& text);
-
-private:
-    static bool isNumerusMessage(const QString& text, int from, int to);
-    static QString translationKeepingForms(const QString& translation, const QString& mock, bool numerus);
-    static QString fillElements(const QString& text, const QString& name, const QString& mock, bool* found);
 };

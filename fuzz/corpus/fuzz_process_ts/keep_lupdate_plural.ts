@@ -1,4 +1,4 @@
-<message numerus="yes">
+<message numerus="yes">
     <source>%n file(s)</source>
     <translation type="unfinished">
         <numerusform></numerusform>

@@ -1,1 +1,0 @@
-<message numerus="yes"><source>Open</source><translation><numerusform/> <numerusform /></translation></message><message numerus="yes"><source>Save</source><translation type="unfinished"></translation></message>
