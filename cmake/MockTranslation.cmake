@@ -1,6 +1,7 @@
 # Mock Swedish for the running UI. lupdate extracts the texts of the collection and of the reference
 # toolkit into a .ts file in the build tree, twc-translate fills every translation with mock Swedish
-# (keeping the forms of plural messages, which lrelease requires), lrelease compiles the result, and the .qm is embedded into the library as
+# (with --keep-numerus, so that a plural text, whose forms lrelease requires, never breaks the
+# build), lrelease compiles the result, and the .qm is embedded into the library as
 # ":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm", which
 # `testwidgetcollection --mock-locale` loads. Without lupdate or lrelease the build goes on
 # without it.
