@@ -151,7 +151,6 @@ void TwcTranslateTest::usageErrors_data()
     QTest::newRow("tree with another mode") << QStringList({"fix", "--tree"}) << "--tree goes right after rewrite-tr";
     QTest::newRow("forms kept in another mode") << QStringList({"fix", "--keep-numerus", "a.ts"}) << "with mock only";
     QTest::newRow("two tree roots") << QStringList({"rewrite-tr", "--tree", "a", "b"}) << "at most one DIR";
-    QTest::newRow("tree without root") << QStringList({"rewrite-tr", "--tree"}) << "VN_TRANSLATION_SOURCE_PATH";
     QTest::newRow("option as tree root") << QStringList({"rewrite-tr", "--tree", "--all"}) << "unknown option";
 }
 
@@ -293,6 +292,13 @@ void TwcTranslateTest::messagesMatchExitCodes_data()
         << QStringList({"count-unfinished", missing}) << QString() << "does not exist" << 1;
     QTest::newRow("tree missing") << QStringList({"rewrite-tr", "--tree", missing}) << QString() << "is not a directory"
                                   << 1;
+    QTest::newRow("tree without root")
+        << QStringList({"rewrite-tr", "--tree"})
+        << "The environment variable $VN_TRANSLATION_SOURCE_PATH$ is not set. Set the variable first.\n"
+        << "give DIR or set VN_TRANSLATION_SOURCE_PATH" << 2;
+    QTest::newRow("tree with an invalid file")
+        << QStringList({"rewrite-tr", "--tree", "TREE"}) << "Processing:\nLATIN1\n"
+        << "is not valid UTF-8 text" << 1;
     QTest::newRow("proc file") << QStringList({"rewrite-tr", "/proc/self/comm"}) << "Processing:\n/proc/self/comm\n"
                                << "could not be read completely" << 1;
     QTest::newRow("invalid UTF-8") << QStringList({"rewrite-tr", "LATIN1"}) << "Processing:\nLATIN1\n"
@@ -315,6 +321,7 @@ void TwcTranslateTest::messagesMatchExitCodes()
     arguments.replaceInStrings(QStringLiteral("LATIN1"), latin1);
     arguments.replaceInStrings(QStringLiteral("GOOD"), writeFile(QStringLiteral("good.ts"), "<a>"));
     arguments.replaceInStrings(QStringLiteral("RGFILE"), skipped);
+    arguments.replaceInStrings(QStringLiteral("TREE"), m_dir->path());
     QProcess process;
     process.start(QStringLiteral(TWC_TRANSLATE_EXECUTABLE), arguments);
     QVERIFY(process.waitForFinished(60000));
