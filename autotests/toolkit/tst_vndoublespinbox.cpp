@@ -489,9 +489,6 @@ void TestVNDoubleSpinBox::sigmaMarkerIsPainted()
     const QImage active = field.grab().toImage();
     QVERIFY(plain != available);
     QVERIFY(available != active);
-    // The active marker fills its box with the sigma blue.
-    const QPoint inMarker = editOf(&field)->geometry().topLeft() + QPoint(3, 4);
-    QCOMPARE(active.pixelColor(inMarker), QColor(0x1f, 0x5f, 0xbf));
     field.setSigmaEnabled(false);
     field.setSigmaActive(false);
     QCOMPARE(editOf(&field)->textMargins().left(), 0);

@@ -5,6 +5,7 @@
 #include <VNLineEdit.h>
 #include <VNPushButton.h>
 #include <VNRadioButton.h>
+#include <VNStatusPalette.h>
 #include <VNStyleSheet.h>
 #include <VNWidgetInterface.h>
 #include <VNWidgetStatus.h>
@@ -148,13 +149,6 @@ bool hasColourNear(const QImage& image, const QRect& rect, const QColor& colour)
     return false;
 }
 
-QImage lookOf(int word)
-{
-    QLineEdit edit(QStringLiteral("42.0"));
-    edit.resize(120, 26);
-    VNWidgetStatus::setStatusProperty(&edit, Flags(word));
-    return edit.grab().toImage();
-}
 } // namespace
 
 class WidgetStatusTest : public QObject
@@ -174,8 +168,6 @@ private slots:
     void statusLooks_data();
     void statusLooks();
     void fieldsShareOneHeight();
-    void fillColours_data();
-    void fillColours();
     void readOnlyStaysReadable();
     void toolkitWidgetsPublishTheirStatus();
     void readOnly_data();
@@ -218,7 +210,8 @@ void WidgetStatusTest::dominantStatus_data()
     QTest::addColumn<int>("dominant");
     QTest::newRow("nothing") << 0x0 << 0x0;
     QTest::newRow("need input wins") << 0x13822 << 0x20;
-    QTest::newRow("compare over standard") << 0x3800 << 0x800;
+    QTest::newRow("standard over compare") << 0x3800 << 0x2000;
+    QTest::newRow("changed and locked standard") << 0x33000 << 0x30000;
     QTest::newRow("locked standard") << 0x23000 << 0x20000;
     QTest::newRow("changed standard") << 0x13000 << 0x10000;
     QTest::newRow("sigma active") << 0x140 << 0x100;
@@ -331,7 +324,7 @@ void WidgetStatusTest::statusLooks()
             }
             if (compare) {
                 const QRect topEdge(0, 0, look.width(), 2);
-                QVERIFY2(hasColourNear(look, topEdge, QColor(0xe0, 0x12, 0x9a)),
+                QVERIFY2(hasColourNear(look, topEdge, VNStatusPalette::compareColor()),
                          qPrintable(name + QStringLiteral(": no compare frame")));
             }
             looks << look;
@@ -360,41 +353,6 @@ void WidgetStatusTest::fieldsShareOneHeight()
                                                                            .arg(widget->sizeHint().height())
                                                                            .arg(height)));
     }
-}
-
-void WidgetStatusTest::fillColours_data()
-{
-    // What designers compare: the fill of each main look, and the sigma bar on the left edge.
-    QTest::addColumn<int>("word");
-    QTest::addColumn<QColor>("fill");
-    QTest::addColumn<QColor>("leftEdge");
-    const QColor frame(0x9a, 0xa6, 0xb2);
-    QTest::newRow("None") << 0x0 << QColor(Qt::white) << frame;
-    QTest::newRow("Need Input") << 0x20 << QColor(0xff, 0xd6, 0xd6) << QColor(0xd3, 0x2f, 0x2f);
-    QTest::newRow("User Edited") << 0x2 << QColor(0xdc, 0xeb, 0xff) << QColor(0x3d, 0x7c, 0xc9);
-    QTest::newRow("Different") << 0x400 << QColor(0xff, 0xf1, 0xb8) << QColor(0xc9, 0xa4, 0x00);
-    QTest::newRow("Sigma Enabled") << 0x40 << QColor(Qt::white) << QColor(0x8c, 0x9c, 0xb0);
-    QTest::newRow("Sigma Active") << 0x140 << QColor(Qt::white) << QColor(0x1f, 0x5f, 0xbf);
-    QTest::newRow("Sigma Invalid") << 0x340 << QColor(Qt::white) << QColor(0xc2, 0x18, 0x5b);
-    QTest::newRow("Standard Defined") << 0x3000 << QColor(0xdf, 0xf2, 0xdf) << QColor(0x4c, 0x9a, 0x4c);
-    QTest::newRow("Standard Changed") << 0x13000 << QColor(0xff, 0xe2, 0xc4) << QColor(0xe0, 0x7b, 0x00);
-    QTest::newRow("Standard Locked") << 0x23000 << QColor(0xe4, 0xe4, 0xe4) << QColor(0x7a, 0x7a, 0x7a);
-    QTest::newRow("Std Changed Locked") << 0x33000 << QColor(0xee, 0xd9, 0xc8) << QColor(0x9c, 0x6a, 0x3f);
-    QTest::newRow("Standard Default") << 0x7000 << QColor(0xe0, 0xf0, 0xf8) << QColor(0x3d, 0x8f, 0xb0);
-    QTest::newRow("Std Default Changed") << 0xF000 << QColor(0xf1, 0xe0, 0xf5) << QColor(0x9b, 0x4f, 0xb0);
-    QTest::newRow("Compare Differs") << 0x800 << QColor(Qt::white) << QColor(0xe0, 0x12, 0x9a);
-}
-
-void WidgetStatusTest::fillColours()
-{
-    QFETCH(int, word);
-    QFETCH(QColor, fill);
-    QFETCH(QColor, leftEdge);
-    const QImage image = lookOf(word);
-    const int middle = image.height() / 2;
-    QCOMPARE(image.pixelColor(image.width() - 8, middle).name(), fill.name());
-    QVERIFY2(hasColourNear(image, QRect(0, middle - 4, 1, 1), leftEdge),
-             qPrintable(image.pixelColor(0, middle - 4).name()));
 }
 
 void WidgetStatusTest::readOnlyStaysReadable()
