@@ -1,13 +1,11 @@
 #pragma once
 
-#include "vnwidgets_export.h"
-
 #include <QString>
 
 // Writes the status rules of the toolkit style sheet from VNStatusPalette. The build runs it on
 // the hand-written style sheet, whose marker line it replaces, and puts the result into the
 // resource that VNStyleSheet applies; so the style sheet cannot drift from the palette.
-class VNWIDGETS_EXPORT VNStatusStyleSheet
+class VNStatusStyleSheet
 {
 public:
     static QString marker();
