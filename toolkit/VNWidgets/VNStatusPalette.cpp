@@ -60,9 +60,8 @@ struct LookColors
 // (#efefef), every text at 4.5:1 or more on its fill, so that neither colour nor contrast alone has
 // to carry the meaning. A disabled widget keeps frame and marks and fades its fill halfway to the
 // disabled field fill (#f4f4f4); its text takes the disabled grey.
+// One row per look after Look::undef, which keeps the widget's own colours.
 const LookColors lookColors[] = {
-    // undef: the widget's own colours (never read)
-    {0, 0, 0, 0},
     // needInput: red, the only look that asks the user to act, and it wins over every other.
     {0xd32f2f, 0xffd6d6, 0x5c0000, 0xf9e5e5},
     // userEdit: the toolkit's accent blue of focus and selection: "you changed this".
@@ -94,7 +93,8 @@ const QRgb disabledText = 0x9aa3ad;
 // often sits on a field framed in the user-edit blue; available is the same violet greyed,
 // invalid crimson (next to, not the same as, the need-input red), a changed standard the
 // standard-changed orange.
-const QRgb sigmaColors[] = {0, 0x807898, 0x6a3db8, 0xc2185b, 0xc06400};
+// One entry per sigma look after SigmaLook::none.
+const QRgb sigmaColors[] = {0x807898, 0x6a3db8, 0xc2185b, 0xc06400};
 
 // The compare-differs mark: magenta #e0129a, the one hue no other look uses, so the dashed frame
 // reads over every fill (#c01ca8 came too close to the violets of sigma and a changed default).
@@ -144,7 +144,7 @@ VNStatusPalette::Colors VNStatusPalette::colors(Look look, bool enabled)
 {
     if (look == Look::undef)
         return {};
-    const LookColors& row = lookColors[int(look)];
+    const LookColors& row = lookColors[int(look) - 1];
     return {QColor(row.frame), QColor(enabled ? row.fill : row.disabledFill),
             QColor(enabled ? row.text : disabledText)};
 }
@@ -156,7 +156,7 @@ VNStatusPalette::Colors VNStatusPalette::colors(VNWidgetStatus::StatusFlags flag
 
 QColor VNStatusPalette::sigmaColor(SigmaLook sigma)
 {
-    return sigma == SigmaLook::none ? QColor() : QColor(sigmaColors[int(sigma)]);
+    return sigma == SigmaLook::none ? QColor() : QColor(sigmaColors[int(sigma) - 1]);
 }
 
 QColor VNStatusPalette::compareColor()
