@@ -4,27 +4,23 @@
 #include "ObjectMap.h"
 
 #include <CollectionClock.h>
+#include <LauncherTable.h>
 #include <TestWidgetCollection.h>
 #include <VNStyleSheet.h>
-
-#include <algorithm>
-#include <tuple>
+#include <WindowWalk.h>
 
 #include <QAbstractAnimation>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QCursor>
-#include <QDialog>
 #include <QDir>
 #include <QFileInfo>
 #include <QFont>
 #include <QFontDatabase>
 #include <QGridLayout>
-#include <QLayout>
 #include <QLocale>
 #include <QPixmap>
 #include <QPushButton>
-#include <QSet>
 #include <QStyleFactory>
 #include <QTabWidget>
 #include <QTemporaryFile>
@@ -50,21 +46,11 @@ const int modalWindowDelayMs = 200;
 // were found at build time.
 const QString mockTranslation = QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm");
 
-// Windows that show one gallery per tab: the launcher button and the object name of the tab
-// widget whose every page gets a screenshot of its own.
-const struct
+// The tab widget whose every page the launcher table names as a view of its own.
+QTabWidget* pagesOf(const QString& buttonName, QWidget* window)
 {
-    const char* button;
-    const char* tabWidget;
-} tabbedWindows[] = {{"m_testSquish", "m_tabWidget"}};
-
-QTabWidget* galleryTabs(const QString& buttonName, QWidget* window)
-{
-    for (const auto& entry : tabbedWindows) {
-        if (buttonName == QLatin1String(entry.button))
-            return window->findChild<QTabWidget*>(QLatin1String(entry.tabWidget));
-    }
-    return nullptr;
+    const LauncherTable::Entry* entry = LauncherTable::find(buttonName);
+    return entry && entry->pages ? window->findChild<QTabWidget*>(QLatin1String(entry->pages)) : nullptr;
 }
 
 QTextStream& out()
@@ -77,46 +63,6 @@ QTextStream& err()
 {
     static QTextStream stream(stderr);
     return stream;
-}
-
-QSet<QWidget*> visibleWidgets()
-{
-    QSet<QWidget*> visible;
-    const QWidgetList widgets = QApplication::allWidgets();
-    for (QWidget* widget : widgets) {
-        if (widget->isVisible())
-            visible.insert(widget);
-    }
-    return visible;
-}
-
-// A child that floats over a window outside its layout, like the loupe.
-bool isFloatingChild(QWidget* widget)
-{
-    const QWidget* parent = widget->parentWidget();
-    return parent && parent->isWindow() && (!parent->layout() || parent->layout()->indexOf(widget) < 0);
-}
-
-// Windows that became visible, or windows into which a floating child was placed, ordered by
-// object name so that every run numbers them alike.
-QList<QWidget*> newlyShownWindows(const QSet<QWidget*>& before)
-{
-    QList<QWidget*> windows;
-    const QSet<QWidget*> after = visibleWidgets();
-    for (QWidget* widget : after) {
-        if (before.contains(widget) || !(widget->isWindow() || isFloatingChild(widget)))
-            continue;
-        if (!windows.contains(widget->window()))
-            windows << widget->window();
-    }
-    // Qt keeps its widgets in a set; windows alike in name are told apart by class and title.
-    const auto key = [](const QWidget* window) {
-        return std::make_tuple(window->objectName(), QString::fromLatin1(window->metaObject()->className()),
-                               window->windowTitle());
-    };
-    std::sort(windows.begin(), windows.end(),
-              [&key](const QWidget* left, const QWidget* right) { return key(left) < key(right); });
-    return windows;
 }
 
 // Brings every running animation of the window to its end, so that the window is saved at rest
@@ -145,15 +91,6 @@ void finishAnimations(QWidget* window)
     }
 }
 
-// Ends the modal window that a click opened; a dialog is ended even when it refuses to close.
-void endModalWindow()
-{
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* dialog = qobject_cast<QDialog*>(modal))
-        dialog->done(QDialog::Rejected);
-    else if (modal)
-        modal->close();
-}
 } // namespace
 
 HostApplication::HostApplication() = default;
@@ -214,8 +151,8 @@ int HostApplication::start(const QStringList& arguments)
     for (const QString& name : names) {
         if (!findButton(name)) {
             QStringList valid;
-            for (const LauncherButton& entry : launcherButtons())
-                valid << entry.button->objectName();
+            for (const LauncherTable::Entry& entry : LauncherTable::entries())
+                valid << QLatin1String(entry.button);
             err() << "testwidgetcollection: unknown launcher button \"" << name
                   << "\". Valid names: " << valid.join(QStringLiteral(", ")) << Qt::endl;
             return 2;
@@ -238,41 +175,27 @@ bool HostApplication::installMockTranslation()
     return true;
 }
 
-QList<HostApplication::LauncherButton> HostApplication::launcherButtons() const
-{
-    QList<LauncherButton> buttons;
-    for (const char* name : {"showStyleSheet", "loupe", "stateDebug"}) {
-        if (auto* button = m_panel->findChild<QPushButton*>(QLatin1String(name)))
-            buttons << LauncherButton{button, -1, -1};
-    }
-    auto* grid = m_panel->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
-    if (!grid)
-        return buttons;
-    for (int row = 0; row < grid->rowCount(); ++row) {
-        for (int column = 0; column < grid->columnCount(); ++column) {
-            QLayoutItem* item = grid->itemAtPosition(row, column);
-            if (auto* button = item ? qobject_cast<QPushButton*>(item->widget()) : nullptr)
-                buttons << LauncherButton{button, row, column};
-        }
-    }
-    return buttons;
-}
-
 QPushButton* HostApplication::findButton(const QString& name) const
 {
-    for (const LauncherButton& entry : launcherButtons()) {
-        if (entry.button->objectName() == name)
-            return entry.button;
-    }
-    return nullptr;
+    return LauncherTable::find(name) ? m_panel->findChild<QPushButton*>(name) : nullptr;
 }
 
+// Buttons outside the grid (the inspection buttons) have no row and column: "-".
 int HostApplication::listButtons() const
 {
-    for (const LauncherButton& entry : launcherButtons()) {
+    auto* grid = m_panel->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
+    for (const LauncherTable::Entry& entry : LauncherTable::entries()) {
+        QPushButton* button = findButton(QLatin1String(entry.button));
+        const int index = grid && button ? grid->indexOf(button) : -1;
+        int row = -1;
+        int column = -1;
+        int rowSpan = 0;
+        int columnSpan = 0;
+        if (index >= 0)
+            grid->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
         const auto cell = [](int value) { return value < 0 ? QStringLiteral("-") : QString::number(value); };
-        out() << entry.button->objectName() << '\t' << entry.button->text() << '\t' << cell(entry.row) << '\t'
-              << cell(entry.column) << '\n';
+        out() << entry.button << '\t' << (button ? button->text() : QString()) << '\t' << cell(row) << '\t'
+              << cell(column) << '\n';
     }
     out().flush();
     return 0;
@@ -352,39 +275,14 @@ bool HostApplication::visitEveryWindow(const WindowVisitor& visit)
     finishAnimations(m_panel.get());
     if (!visit(nullptr, m_panel.get(), 0))
         return false;
-    QList<LauncherButton> buttons = launcherButtons();
-    // The loupe goes last, so that it lands in the most recently opened dialog.
-    std::stable_partition(buttons.begin(), buttons.end(), [](const LauncherButton& entry) {
-        return entry.button->objectName() != QLatin1String("loupe");
-    });
-    bool ok = true;
-    for (const LauncherButton& entry : buttons) {
-        const QSet<QWidget*> before = visibleWidgets();
-        QList<QWidget*> visited;
-        const auto visitNewWindows = [&] {
-            const QList<QWidget*> windows = newlyShownWindows(before);
-            for (QWidget* window : windows) {
-                if (ok && !visited.contains(window)) {
-                    finishAnimations(window);
-                    ok = visit(entry.button, window, visited.size());
-                }
-                visited << window;
-            }
-        };
-        // A window that runs modally is visited from inside its own event loop, then ended.
-        QTimer modalWatch;
-        QObject::connect(&modalWatch, &QTimer::timeout, [&] {
-            if (QApplication::activeModalWidget()) {
-                visitNewWindows();
-                endModalWindow();
-            }
+    const WindowWalk walk(modalWindowDelayMs);
+    const QList<QPushButton*> buttons = WindowWalk::buttons(*m_panel);
+    for (QPushButton* button : buttons) {
+        const bool goOn = walk.click(button, [&](QWidget* window, int index) {
+            finishAnimations(window);
+            return visit(button, window, index);
         });
-        modalWatch.start(modalWindowDelayMs);
-        entry.button->click();
-        QApplication::processEvents();
-        modalWatch.stop();
-        visitNewWindows();
-        if (!ok)
+        if (!goOn)
             return false;
     }
     return true;
@@ -408,7 +306,7 @@ int HostApplication::takeScreenshots(const QString& directory)
         sheet.addShot(name, caption, shotName + QStringLiteral(".png"));
         if (!saveScreenshot(dir, shotName, window))
             return false;
-        QTabWidget* tabs = galleryTabs(name, window);
+        QTabWidget* tabs = pagesOf(name, window);
         return !tabs || saveTabScreenshots(dir, shotName, caption, window, tabs, sheet);
     });
     if (!saved)

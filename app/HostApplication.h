@@ -25,18 +25,10 @@ public:
     int start(const QStringList& arguments);
 
 private:
-    struct LauncherButton
-    {
-        QPushButton* button;
-        int row;
-        int column;
-    };
-
     // Called with each window that appears, numbered per button; the panel comes first, without a
     // button. Returns false to stop the run.
     using WindowVisitor = std::function<bool(const QPushButton* button, QWidget* window, int index)>;
 
-    QList<LauncherButton> launcherButtons() const;
     QPushButton* findButton(const QString& name) const;
     int listButtons() const;
     int openButtons(const QStringList& names);

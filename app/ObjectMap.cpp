@@ -1,8 +1,18 @@
 #include "ObjectMap.h"
 
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
 #include <QJsonDocument>
+#include <QMenu>
 #include <QMetaProperty>
+#include <QPushButton>
 #include <QSaveFile>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
+#include <QToolButton>
+#include <QTreeView>
 #include <QWidget>
 
 namespace {
@@ -35,6 +45,50 @@ void addTexts(const QWidget* widget, QJsonObject& node)
     if (widget->isWindow())
         node.insert(QStringLiteral("windowTitle"), widget->windowTitle());
 }
+
+QJsonArray actionTexts(const QList<QAction*>& actions)
+{
+    QJsonArray texts;
+    for (const QAction* action : actions) {
+        if (!action->isSeparator())
+            texts.append(action->text());
+    }
+    return texts;
+}
+
+QJsonArray headerTexts(const QAbstractItemModel* model)
+{
+    QJsonArray texts;
+    for (int section = 0; model && section < model->columnCount(); ++section)
+        texts.append(model->headerData(section, Qt::Horizontal).toString());
+    return texts;
+}
+
+// The entries a robot picks by their text: the items of a combo box, the tabs of a tab bar, the
+// sections of a view's header, the entries of a button's menu or of a context menu.
+QJsonArray itemTexts(const QWidget* widget)
+{
+    QJsonArray items;
+    if (const auto* box = qobject_cast<const QComboBox*>(widget)) {
+        for (int index = 0; index < box->count(); ++index)
+            items.append(box->itemText(index));
+    } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
+        for (int index = 0; index < tabs->count(); ++index)
+            items.append(tabs->tabText(index));
+    } else if (const auto* bar = qobject_cast<const QTabBar*>(widget)) {
+        for (int index = 0; index < bar->count(); ++index)
+            items.append(bar->tabText(index));
+    } else if (qobject_cast<const QTreeView*>(widget) || qobject_cast<const QTableView*>(widget)) {
+        items = headerTexts(static_cast<const QAbstractItemView*>(widget)->model());
+    } else if (const auto* toolButton = qobject_cast<const QToolButton*>(widget); toolButton && toolButton->menu()) {
+        items = actionTexts(toolButton->menu()->actions());
+    } else if (const auto* pushButton = qobject_cast<const QPushButton*>(widget); pushButton && pushButton->menu()) {
+        items = actionTexts(pushButton->menu()->actions());
+    } else if (widget->contextMenuPolicy() == Qt::ActionsContextMenu) {
+        items = actionTexts(widget->actions());
+    }
+    return items;
+}
 } // namespace
 
 QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath)
@@ -53,9 +107,12 @@ QJsonObject ObjectMap::describe(const QWidget* widget, const QString& parentPath
                       rectObject(QRect(widget->mapTo(widget->window(), QPoint()), widget->size()))},
                      {QStringLiteral("visible"), widget->isVisible()},
                      {QStringLiteral("enabled"), widget->isEnabled()}};
-    if (widget->isWindow())
-        node.insert(QStringLiteral("windowGeometry"), rectObject(QRect(QPoint(), widget->size())));
     addTexts(widget, node);
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget); button && button->isCheckable())
+        node.insert(QStringLiteral("checked"), button->isChecked());
+    const QJsonArray items = itemTexts(widget);
+    if (!items.isEmpty())
+        node.insert(QStringLiteral("items"), items);
     QJsonArray children;
     const QList<QWidget*> childWidgets = widget->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* child : childWidgets) {

@@ -1,4 +1,5 @@
 #include "HostApplication.h"
+#include "OffscreenMessageFilter.h"
 
 #include <QApplication>
 
@@ -53,13 +54,24 @@ void fixReproducibleEnvironment(int argc, char* argv[])
     QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
 }
+
+// The collection paints with the raster engine only; loading the X server's OpenGL integration for
+// the first window would cost more than building the whole panel. A user's own choice stands.
+void skipOpenGlIntegration()
+{
+    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
+        qputenv("QT_XCB_GL_INTEGRATION", "none");
+}
 } // namespace
 
 int main(int argc, char* argv[])
 {
     choosePlatform(argc, argv);
     fixReproducibleEnvironment(argc, argv);
+    skipOpenGlIntegration();
     QApplication application(argc, argv);
+    if (QGuiApplication::platformName() == QLatin1String("offscreen"))
+        OffscreenMessageFilter::install();
     QApplication::setApplicationName(QStringLiteral("testwidgetcollection"));
     HostApplication host;
     const int code = host.start(QApplication::arguments());

@@ -1,21 +1,19 @@
-// Opens and closes every window of the panel through its own buttons, round after round, then
-// destroys the panel, and prints the resident memory after each round and the mean growth per
-// round after the first one (goal: under 50 KB). Built with TWC_SANITIZE, LeakSanitizer checks at
-// exit that nothing was lost. Naming buttons limits the rounds to them, to find what grows. Run it
-// headless:
+// Opens and closes every window of the panel through its own buttons (those of the launcher
+// table), round after round, then destroys the panel, and prints the resident memory after each
+// round and the mean growth per round after the first one (goal: under 50 KB). Built with TWC_SANITIZE, LeakSanitizer
+// checks at exit that nothing was lost. Naming buttons limits the rounds to them, to find what grows. Run it headless:
 //   QT_QPA_PLATFORM=offscreen ./bench_leakrounds [ROUNDS [BUTTON...]]
+#include "LauncherTable.h"
 #include "TestWidgetCollection.h"
+#include "WindowWalk.h"
 
 #include <VNStyleSheet.h>
 
 #include <QApplication>
-#include <QDialog>
 #include <QPixmapCache>
 #include <QPointer>
 #include <QPushButton>
-#include <QSet>
 #include <QTextStream>
-#include <QTimer>
 
 #include <fstream>
 #include <unistd.h>
@@ -37,67 +35,23 @@ double residentKilobytes()
     return double(residentPages) * double(sysconf(_SC_PAGESIZE)) / 1024.0;
 }
 
-// Every push button on the panel itself (or those named), found before any window opens, so that
-// a button added to the panel later is clicked too and the buttons inside the dialogs never are.
-QList<QPushButton*> panelButtons(QWidget* panel, const QStringList& names)
-{
-    QList<QPushButton*> buttons;
-    for (QPushButton* button : panel->findChildren<QPushButton*>()) {
-        if (button->window() == panel && (names.isEmpty() || names.contains(button->objectName())))
-            buttons << button;
-    }
-    return buttons;
-}
-
-QSet<QWidget*> visibleWindows()
-{
-    QSet<QWidget*> windows;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible())
-            windows.insert(widget);
-    }
-    return windows;
-}
-
 void processEverything()
 {
     QApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-// Ends the window that runs modally, as a user would who dismisses it.
-void endModalWindow()
+// Clicks one button and closes every window that the click showed (the panel stays, also when the
+// loupe went into it), returning them.
+WindowList openAndClose(const WindowWalk& walk, QPushButton* button)
 {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (auto* dialog = qobject_cast<QDialog*>(modal))
-        dialog->done(QDialog::Rejected);
-    else if (modal)
-        modal->close();
-}
-
-// Clicks one button and closes every window that the click showed, returning them.
-WindowList openAndClose(QPushButton* button)
-{
-    const QSet<QWidget*> before = visibleWindows();
     WindowList opened;
-    const auto collect = [&] {
-        for (QWidget* window : visibleWindows()) {
-            if (!before.contains(window) && !opened.contains(window))
-                opened << window;
-        }
-    };
-    QTimer modalWatch;
-    QObject::connect(&modalWatch, &QTimer::timeout, [&] {
-        if (QApplication::activeModalWidget()) {
-            collect();
-            endModalWindow();
-        }
+    walk.click(button, [&](QWidget* window, int) {
+        if (window != button->window())
+            opened << window;
+        return true;
     });
-    modalWatch.start(modalWatchIntervalMs);
-    button->click();
     processEverything();
-    modalWatch.stop();
-    collect();
     for (const QPointer<QWidget>& window : opened) {
         if (window)
             window->close();
@@ -106,21 +60,21 @@ WindowList openAndClose(QPushButton* button)
     return opened;
 }
 
-// A button that shows a new window on every click leaves the earlier one to the panel, which would
+// A button that makes a new window on every click leaves the earlier one to the panel, which would
 // keep it until it goes; it is deleted here once a newer one has replaced it. Windows the panel
-// shows again (its cached ones) stay, as they do for a user.
+// shows again (its kept ones) stay, as they do for a user.
+bool makesNewWindows(const QPushButton* button)
+{
+    const LauncherTable::Entry* entry = LauncherTable::find(button->objectName());
+    return entry &&
+           (entry->policy == LauncherTable::Policy::NewEachClick || entry->policy == LauncherTable::Policy::RunAtOnce);
+}
+
 void deleteReplacedWindows(WindowList& previous, const WindowList& opened)
 {
-    bool replaced = false;
-    for (const QPointer<QWidget>& window : opened) {
-        if (window && !previous.contains(window))
-            replaced = true;
-    }
-    if (replaced) {
-        for (const QPointer<QWidget>& window : previous) {
-            if (window && !opened.contains(window))
-                delete window.data();
-        }
+    for (const QPointer<QWidget>& window : previous) {
+        if (window && !opened.contains(window))
+            delete window.data();
     }
     previous = opened;
 }
@@ -148,7 +102,8 @@ int main(int argc, char* argv[])
     auto* panel = new TestWidgetCollection(nullptr, Qt::WindowFlags());
     panel->show();
     processEverything();
-    const QList<QPushButton*> buttons = panelButtons(panel, QCoreApplication::arguments().mid(2));
+    const QList<QPushButton*> buttons = WindowWalk::buttons(*panel, QCoreApplication::arguments().mid(2));
+    const WindowWalk walk(modalWatchIntervalMs);
     QHash<QPushButton*, WindowList> windowsByButton;
 
     out << QStringLiteral("%1 panel buttons, %2 rounds; resident memory after each round:\n")
@@ -156,8 +111,11 @@ int main(int argc, char* argv[])
                .arg(rounds);
     QList<double> resident;
     for (int round = 1; round <= rounds; ++round) {
-        for (QPushButton* button : buttons)
-            deleteReplacedWindows(windowsByButton[button], openAndClose(button));
+        for (QPushButton* button : buttons) {
+            const WindowList opened = openAndClose(walk, button);
+            if (makesNewWindows(button))
+                deleteReplacedWindows(windowsByButton[button], opened);
+        }
         processEverything();
         // Qt keeps what it renders of each icon in its pixmap cache under a key of that icon, up to
         // QPixmapCache::cacheLimit() (10 MB): windows made anew every round fill it with entries never

@@ -1,5 +1,6 @@
 // Prints how fast the panel starts, how long each dialog takes to open the first time, and what a
 // loupe repaint costs. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_startup
+#include "LauncherTable.h"
 #include "Loupe.h"
 #include "TestWidgetCollection.h"
 
@@ -7,7 +8,6 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QGridLayout>
 #include <QImage>
 #include <QPainter>
 #include <QProcess>
@@ -17,7 +17,6 @@
 #include <chrono>
 
 namespace {
-const QStringList blockingButtons = {QStringLiteral("m_converterTest")};
 
 double ms(qint64 nanoseconds)
 {
@@ -45,16 +44,14 @@ void measureFromProcessStart(QTextStream& out)
     out << QString::fromUtf8(child.readAllStandardOutput());
 }
 
+// The buttons of the launcher table that open a window: all but the loupe's.
 QList<QPushButton*> launcherButtons(QWidget* panel)
 {
     QList<QPushButton*> buttons;
-    auto* grid = panel->findChild<QGridLayout*>(QStringLiteral("gridLayout"));
-    for (int index = 0; index < grid->count(); ++index) {
-        if (auto* button = qobject_cast<QPushButton*>(grid->itemAt(index)->widget()))
-            buttons << button;
+    for (const LauncherTable::Entry& entry : LauncherTable::entries()) {
+        if (entry.policy != LauncherTable::Policy::MovesLoupe)
+            buttons << panel->findChild<QPushButton*>(QLatin1String(entry.button));
     }
-    for (const char* name : {"showStyleSheet", "stateDebug"})
-        buttons << panel->findChild<QPushButton*>(QLatin1String(name));
     return buttons;
 }
 
@@ -90,8 +87,6 @@ int main(int argc, char* argv[])
 
     out << "first open of each dialog (goal 100 ms each):\n";
     for (QPushButton* button : launcherButtons(&panel)) {
-        if (blockingButtons.contains(button->objectName()))
-            continue;
         const int before = windowsOf(&panel).size();
         QElapsedTimer timer;
         timer.start();

@@ -1,60 +1,11 @@
 #include "TestWidgetCollection.h"
 
-#include "Loupe.h"
-#include "QtTraining.h"
-#include "TestAdvancedMenu.h"
-#include "TestAlignment.h"
-#include "TestColorDisplay.h"
-#include "TestComboBox.h"
-#include "TestCompareIcons.h"
-#include "TestComposePixmap.h"
-#include "TestConverterUtility.h"
-#include "TestCurveInputControl.h"
-#include "TestDendrogramWidget.h"
-#include "TestDisclosure.h"
-#include "TestDragAndDrop.h"
-#include "TestFlipWidget.h"
-#include "TestInfoArea.h"
-#include "TestJoinsTable.h"
-#include "TestLayoutExample.h"
-#include "TestLayoutHelper.h"
-#include "TestMasterDetailTree.h"
-#include "TestModuleNavigation.h"
-#include "TestNewAssemblyImport.h"
-#include "TestProgressComposition.h"
-#include "TestRegExp.h"
-#include "TestSVG.h"
-#include "TestSquish.h"
-#include "TestStringReducer.h"
-#include "TestTreeDelegates.h"
-#include "TestTreeItemDelegate.h"
-#include "TestTreeWidget.h"
-#include "TestVNAnimatedTabBar.h"
-#include "TestVNMessageBox.h"
-#include "TestVNResultSwitcher.h"
-#include "TestVNSliderView.h"
-#include "TestVNTableWidget.h"
-#include "TestVNTreeView.h"
-#include "TestValueFields.h"
-#include "TestVirtualSlider.h"
-#include "TestVisualizePointsControl.h"
+#include "LauncherTable.h"
 
 #include <DebugStateInfo.h>
 #include <DebugStyleSheet.h>
 
 #include <QMessageBox>
-
-namespace {
-// Creates the window on the first call, with the panel as its parent, and shows it every time.
-template<typename Window>
-Window* showCached(Window*& window, QWidget* panel)
-{
-    if (!window)
-        window = new Window(panel);
-    window->show();
-    return window;
-}
-} // namespace
 
 TestWidgetCollection::TestWidgetCollection(QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags)
@@ -114,233 +65,200 @@ void TestWidgetCollection::showMessage()
 
 void TestWidgetCollection::on_showStyleSheet_clicked()
 {
-    if (!m_styleSheetViewer)
-        m_styleSheetViewer = new DebugStyleSheet(this, false);
-    m_styleSheetViewer->show();
+    LauncherTable::open(*this, "showStyleSheet");
 }
 
-// The loupe goes into the most recently created window of the panel that is still visible, or into
-// the panel when there is none; there is only ever one loupe, moved between windows. Only windows
-// count: the panel's own buttons and the loupe itself are children too, and a loupe inside a button
-// (or inside itself) would be useless.
 void TestWidgetCollection::on_loupe_clicked()
 {
-    const QObjectList candidates = children();
-    QWidget* target = this;
-    for (auto it = candidates.crbegin(); it != candidates.crend(); ++it) {
-        QObject* child = *it;
-        if (!child->isWidgetType())
-            continue;
-        auto* widget = static_cast<QWidget*>(child);
-        if (widget->isVisible() && widget->isWindow()) {
-            target = widget;
-            break;
-        }
-    }
-    if (!m_loupe)
-        m_loupe = new Loupe(target);
-    else if (m_loupe->parentWidget() != target)
-        m_loupe->setParent(target);
-    m_loupe->show();
+    LauncherTable::open(*this, "loupe");
 }
 
 void TestWidgetCollection::on_stateDebug_clicked()
 {
-    showCached(m_stateDebug, this)->raise();
+    LauncherTable::open(*this, "stateDebug");
 }
 
 void TestWidgetCollection::on_m_visualizePointsControl_clicked()
 {
-    showCached(m_testPointsControl, this);
+    LauncherTable::open(*this, "m_visualizePointsControl");
 }
 
 void TestWidgetCollection::on_testMasterDetailTree_clicked()
 {
-    showCached(m_testMasterDetailTree, this);
+    LauncherTable::open(*this, "testMasterDetailTree");
 }
 
 void TestWidgetCollection::on_testPathShortener_clicked()
 {
-    showCached(m_testStringReducer, this);
+    LauncherTable::open(*this, "testPathShortener");
 }
 
-// The combo box test takes the loupe along, if there is one, every time it is opened. Moving a
-// widget hides it, so a loupe that was on screen is shown again in its new window.
 void TestWidgetCollection::on_testComboBox_clicked()
 {
-    if (!m_testComboBox)
-        m_testComboBox = new TestComboBox(this);
-    if (m_loupe) {
-        const bool loupeShown = m_loupe->isVisible();
-        m_loupe->setParent(m_testComboBox);
-        if (loupeShown)
-            m_loupe->show();
-    }
-    m_testComboBox->show();
+    LauncherTable::open(*this, "testComboBox");
 }
 
 void TestWidgetCollection::on_testValueFields_clicked()
 {
-    showCached(m_testValueFields, this);
+    LauncherTable::open(*this, "testValueFields");
 }
 
 void TestWidgetCollection::on_testComposePixmap_clicked()
 {
-    showCached(m_testComposePixmap, this);
+    LauncherTable::open(*this, "testComposePixmap");
 }
 
 void TestWidgetCollection::on_testFlipWidget_clicked()
 {
-    showCached(m_testFlipWidget, this);
+    LauncherTable::open(*this, "testFlipWidget");
 }
 
 void TestWidgetCollection::on_testColorDisplay_clicked()
 {
-    showCached(m_testColorDisplay, this);
+    LauncherTable::open(*this, "testColorDisplay");
 }
 
 void TestWidgetCollection::on_m_testRegExp_clicked()
 {
-    showCached(m_testRegExp, this);
+    LauncherTable::open(*this, "m_testRegExp");
 }
 
 void TestWidgetCollection::on_m_testTreeDelegates_clicked()
 {
-    showCached(m_testTreeDelegates, this);
+    LauncherTable::open(*this, "m_testTreeDelegates");
 }
 
 void TestWidgetCollection::on_m_testTreeItemDelegate_clicked()
 {
-    showCached(m_testTreeItemDelegate, this);
+    LauncherTable::open(*this, "m_testTreeItemDelegate");
 }
 
 void TestWidgetCollection::on_m_testLayouts_clicked()
 {
-    showCached(m_testLayoutExample, this);
+    LauncherTable::open(*this, "m_testLayouts");
 }
 
 void TestWidgetCollection::on_m_testSquish_clicked()
 {
-    showCached(m_testSquish, this);
+    LauncherTable::open(*this, "m_testSquish");
 }
 
 void TestWidgetCollection::on_m_QtTraining_clicked()
 {
-    showCached(m_qtTraining, this);
+    LauncherTable::open(*this, "m_QtTraining");
 }
 
 void TestWidgetCollection::on_m_testSVG_clicked()
 {
-    showCached(m_testSVG, this);
+    LauncherTable::open(*this, "m_testSVG");
 }
 
 void TestWidgetCollection::on_m_testAnimatedTabBar_clicked()
 {
-    showCached(m_testAnimatedTabBar, this);
+    LauncherTable::open(*this, "m_testAnimatedTabBar");
 }
 
 void TestWidgetCollection::on_m_testLayoutHelper_clicked()
 {
-    showCached(m_testLayoutHelper, this);
+    LauncherTable::open(*this, "m_testLayoutHelper");
 }
 
 void TestWidgetCollection::on_m_testDendrogramWidget_clicked()
 {
-    showCached(m_testDendrogramWidget, this);
+    LauncherTable::open(*this, "m_testDendrogramWidget");
 }
 
 void TestWidgetCollection::on_m_compareIcons_clicked()
 {
-    showCached(m_testCompareIcons, this);
+    LauncherTable::open(*this, "m_compareIcons");
 }
 
 void TestWidgetCollection::on_m_testNewAssemblyImport_clicked()
 {
-    showCached(m_testNewAssemblyImport, this);
+    LauncherTable::open(*this, "m_testNewAssemblyImport");
 }
 
 void TestWidgetCollection::on_testDisclosure_clicked()
 {
-    showCached(m_testDisclosure, this);
+    LauncherTable::open(*this, "testDisclosure");
 }
 
 void TestWidgetCollection::on_testVnSlider_clicked()
 {
-    showCached(m_testSliderView, this);
+    LauncherTable::open(*this, "testVnSlider");
 }
 
 void TestWidgetCollection::on_testVNAdvancedMenu_clicked()
 {
-    showCached(m_testAdvancedMenu, this);
+    LauncherTable::open(*this, "testVNAdvancedMenu");
 }
 
 void TestWidgetCollection::on_testCurveInputControl_clicked()
 {
-    showCached(m_testCurveInputControl, this);
+    LauncherTable::open(*this, "testCurveInputControl");
 }
 
 void TestWidgetCollection::on_testInfoArea_clicked()
 {
-    showCached(m_testInfoArea, this);
+    LauncherTable::open(*this, "testInfoArea");
 }
 
 void TestWidgetCollection::on_testVNModuleNavigation_clicked()
 {
-    showCached(m_testModuleNavigation, this);
+    LauncherTable::open(*this, "testVNModuleNavigation");
 }
 
 void TestWidgetCollection::on_testTableWidget_clicked()
 {
-    showCached(m_testTableWidget, this);
+    LauncherTable::open(*this, "testTableWidget");
 }
 
 void TestWidgetCollection::on_m_testVNTreeView_clicked()
 {
-    showCached(m_testTreeView, this);
+    LauncherTable::open(*this, "m_testVNTreeView");
 }
 
 void TestWidgetCollection::on_testTreeWidget_clicked()
 {
-    showCached(m_testTreeWidget, this);
+    LauncherTable::open(*this, "testTreeWidget");
 }
 
 void TestWidgetCollection::on_m_joinsTestTable_clicked()
 {
-    showCached(m_testJoinsTable, this);
+    LauncherTable::open(*this, "m_joinsTestTable");
 }
 
-// A new window on every click; the panel deletes them all when it goes.
 void TestWidgetCollection::on_m_vnResultSwitcher_clicked()
 {
-    (new TestVNResultSwitcher(this))->show();
+    LauncherTable::open(*this, "m_vnResultSwitcher");
 }
 
 void TestWidgetCollection::on_m_testDragAndDrop_clicked()
 {
-    showCached(m_testDragAndDrop, this);
+    LauncherTable::open(*this, "m_testDragAndDrop");
 }
 
 void TestWidgetCollection::on_m_progressTest_clicked()
 {
-    showCached(m_testProgressComposition, this);
+    LauncherTable::open(*this, "m_progressTest");
 }
 
 void TestWidgetCollection::on_m_converterTest_clicked()
 {
-    TestConverterUtility(this).run();
+    LauncherTable::open(*this, "m_converterTest");
 }
 
 void TestWidgetCollection::on_m_testAlignment_clicked()
 {
-    showCached(m_testAlignment, this);
+    LauncherTable::open(*this, "m_testAlignment");
 }
 
 void TestWidgetCollection::on_m_testVNMessageBox_clicked()
 {
-    showCached(m_testMessageBox, this);
+    LauncherTable::open(*this, "m_testVNMessageBox");
 }
 
 void TestWidgetCollection::on_m_testVirtualSlider_clicked()
 {
-    showCached(m_testVirtualSlider, this);
+    LauncherTable::open(*this, "m_testVirtualSlider");
 }

@@ -100,6 +100,9 @@ protected slots:
     void on_m_testVirtualSlider_clicked();
 
 private:
+    // The table of buttons makes, keeps and shows the windows held below.
+    friend class LauncherTable;
+
     Ui::TestWidgetCollection ui;
 
     DebugStyleSheet* m_styleSheetViewer;

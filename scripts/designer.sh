@@ -9,7 +9,7 @@ top="$(cd "$(dirname "$0")/.." && pwd)"
 build_dir="${BUILD_DIR:-$top/build}"
 
 # Designer and its plugin headers come with qttools5-dev-tools and qttools5-dev.
-"$top/scripts/bootstrap.sh"
+"$top/scripts/bootstrap.sh" designer
 
 if ! grep -qs '^TWC_BUILD_DESIGNER_PLUGIN:BOOL=ON' "$build_dir/CMakeCache.txt"; then
     cmake -S "$top" -B "$build_dir" -G Ninja -DCMAKE_BUILD_TYPE="${BUILD_TYPE:-RelWithDebInfo}" \

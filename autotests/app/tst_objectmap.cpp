@@ -1,47 +1,190 @@
 #include "ContactSheet.h"
 #include "HostApplication.h"
 #include "ObjectMap.h"
+#include "ReproducibleRun.h"
+#include "TranslationFileTool.h"
 
-#include <QDirIterator>
-#include <QGroupBox>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMultiHash>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QXmlStreamReader>
 
+// Besides the map's own checks, compares what robots rely on in every window with its baseline in
+// autotests/app/objectmap: one line per widget with its path, classes and texts. With
+// TWC_ACCEPT_OBJECT_MAP=1 (scripts/accept-object-map.sh) the current windows become the baseline.
 namespace {
-using FormWidget = QPair<QString, QString>; // object name, class
+const QString baselineDirectory = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/objectmap");
+const QString acceptCommand = QStringLiteral("scripts/accept-object-map.sh");
+const QString baselineSuffix = QStringLiteral(".txt");
+const QString fieldSeparator = QStringLiteral("  ");
+// Qt's composite widgets make unnamed inner parts of their own, which differ between Qt versions.
+const char* const qtComposites[] = {"QAbstractScrollArea", "QAbstractSpinBox", "QComboBox", "QLineEdit",
+                                    "QTabWidget",          "QCalendarWidget",  "QToolBar",  "QMenuBar"};
 
-// Every named widget of a Designer form, with the class the form gives it.
-QList<FormWidget> formWidgets(const QString& path)
+QStringList strings(const QJsonValue& array)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QList<FormWidget> widgets;
-    QXmlStreamReader xml(&file);
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement || xml.name() != QLatin1String("widget"))
-            continue;
-        const QString name = xml.attributes().value(QLatin1String("name")).toString();
-        if (!name.isEmpty())
-            widgets << FormWidget(name, xml.attributes().value(QLatin1String("class")).toString());
-    }
-    return xml.hasError() ? QList<FormWidget>{FormWidget(xml.errorString(), path)} : widgets;
+    QStringList list;
+    for (const QJsonValue& value : array.toArray())
+        list << value.toString();
+    return list;
 }
 
-void collectClasses(const QJsonObject& node, QMultiHash<QString, QStringList>& classesByName)
+bool isQtPart(const QJsonObject& node, const QStringList& parentClasses, bool parentIsQtPart)
 {
-    QStringList classes;
-    for (const QJsonValue& value : node.value(QStringLiteral("classes")).toArray())
-        classes << value.toString();
-    classesByName.insert(node.value(QStringLiteral("objectName")).toString(), classes);
+    const QString name = node.value(QStringLiteral("objectName")).toString();
+    if (name.startsWith(QLatin1String("qt_")) || name.startsWith(QLatin1String("_q_")))
+        return true;
+    if (!name.isEmpty() || !node.value(QStringLiteral("class")).toString().contains(QRegularExpression("^Q[A-Z]")))
+        return false;
+    return parentIsQtPart || std::any_of(std::begin(qtComposites), std::end(qtComposites), [&](const char* composite) {
+               return parentClasses.contains(QLatin1String(composite));
+           });
+}
+
+QString quoted(QString text)
+{
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('"'), QLatin1String("\\\""));
+    text.replace(QLatin1Char('\n'), QLatin1String("\\n")).replace(QLatin1Char('\t'), QLatin1String("\\t"));
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+// The path (ending in "/" for an unnamed widget), the classes down to QWidget, what it shows, and
+// whether it is checked and enabled.
+QString nodeLine(const QJsonObject& node)
+{
+    QStringList classes = strings(node.value(QStringLiteral("classes")));
+    classes = classes.mid(0, classes.indexOf(QStringLiteral("QWidget")));
+    QString line = node.value(QStringLiteral("path")).toString();
+    if (node.value(QStringLiteral("objectName")).toString().isEmpty())
+        line += QLatin1Char('/');
+    line += fieldSeparator + (classes.isEmpty() ? QStringLiteral("QWidget") : classes.join(QLatin1String(" : ")));
+    for (const char* key : {"text", "title", "windowTitle"}) {
+        if (node.contains(QLatin1String(key)))
+            line += fieldSeparator + QLatin1String(key) + QLatin1Char('=') +
+                    quoted(node.value(QLatin1String(key)).toString());
+    }
+    QStringList items = strings(node.value(QStringLiteral("items")));
+    if (!items.isEmpty()) {
+        for (QString& item : items)
+            item = quoted(item);
+        line += fieldSeparator + QStringLiteral("items=[%1]").arg(items.join(QLatin1String(", ")));
+    }
+    if (node.contains(QStringLiteral("checked")))
+        line += fieldSeparator + (node.value(QStringLiteral("checked")).toBool() ? "checked" : "unchecked");
+    if (!node.value(QStringLiteral("enabled")).toBool())
+        line += fieldSeparator + QStringLiteral("disabled");
+    return line;
+}
+
+void collectLines(const QJsonObject& node, const QStringList& parentClasses, bool parentIsQtPart, QStringList& lines)
+{
+    const bool qtPart = !parentClasses.isEmpty() && isQtPart(node, parentClasses, parentIsQtPart);
+    if (!qtPart)
+        lines << nodeLine(node);
+    const QStringList classes = strings(node.value(QStringLiteral("classes")));
     for (const QJsonValue& child : node.value(QStringLiteral("children")).toArray())
-        collectClasses(child.toObject(), classesByName);
+        collectLines(child.toObject(), classes, qtPart, lines);
+}
+
+// Every window's lines in a stable order, named like its screenshot: by its launcher button (the
+// panel by its object name), a further window of the same button with "_2", "_3"...
+QMap<QString, QStringList> baselines(const QJsonArray& map)
+{
+    QMap<QString, QStringList> windows;
+    for (const QJsonValue& entry : map) {
+        const QJsonObject window = entry.toObject().value(QStringLiteral("window")).toObject();
+        QString name = entry.toObject().value(QStringLiteral("button")).toString();
+        if (name.isEmpty())
+            name = window.value(QStringLiteral("objectName")).toString();
+        const QString button = name;
+        for (int number = 2; windows.contains(name); ++number)
+            name = QStringLiteral("%1_%2").arg(button).arg(number);
+        QStringList lines;
+        collectLines(window, {}, false, lines);
+        lines.sort();
+        windows.insert(name, lines);
+    }
+    return windows;
+}
+
+QString pathOf(const QString& line)
+{
+    return line.section(fieldSeparator, 0, 0);
+}
+
+QStringList readLines(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+bool writeLines(const QString& path, const QStringList& lines)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Text) &&
+           file.write((lines.join(QLatin1Char('\n')) + QLatin1Char('\n')).toUtf8()) >= 0;
+}
+
+// The lines only the first of two sorted lists has.
+QStringList onlyInFirst(const QStringList& first, const QStringList& second)
+{
+    QStringList only;
+    std::set_difference(first.begin(), first.end(), second.begin(), second.end(), std::back_inserter(only));
+    return only;
+}
+
+// The windows of an object-map run in the fixed environment, with further arguments.
+QJsonArray mapWindows(const QStringList& arguments)
+{
+    QTemporaryDir home;
+    const QString path = home.filePath(QStringLiteral("map.json"));
+    if (!ReproducibleRun::runHost(ReproducibleRun::environment(QDir(home.path())),
+                                  QStringList{QStringLiteral("--object-map"), path} + arguments))
+        qWarning("the object map run failed");
+    QFile file(path);
+    file.open(QIODevice::ReadOnly);
+    return QJsonDocument::fromJson(file.readAll()).object().value(QStringLiteral("windows")).toArray();
+}
+
+// What a user reads is translated; what editors hold, values, enumerator keys and the loupe's
+// menu (a developer's tool, in English by design) are not.
+bool showsData(const QJsonObject& node)
+{
+    const QStringList classes = strings(node.value(QStringLiteral("classes")));
+    for (const char* editor : {"QLineEdit", "QAbstractSpinBox", "QComboBox", "QCalendarWidget", "Loupe"}) {
+        if (classes.contains(QLatin1String(editor)))
+            return true;
+    }
+    const QString path = node.value(QStringLiteral("path")).toString();
+    return node.value(QStringLiteral("objectName")).toString().isEmpty() &&
+           path.contains(QRegularExpression(QStringLiteral("^TestCurveInputControlClass/widget[ADE]$")));
+}
+
+void collectUntranslated(const QJsonObject& english, const QJsonObject& mocked, const TranslationFileTool& tool,
+                         QStringList& untranslated)
+{
+    if (showsData(english))
+        return;
+    for (const char* key : {"text", "title", "windowTitle", "items"}) {
+        const QJsonValue value = english.value(QLatin1String(key));
+        const QStringList texts = value.isArray() ? strings(value) : QStringList(value.toString());
+        const QStringList shown = value.isArray() ? strings(mocked.value(QLatin1String(key)))
+                                                  : QStringList(mocked.value(QLatin1String(key)).toString());
+        for (int index = 0; index < texts.size(); ++index) {
+            const QString& text = texts.at(index);
+            if (text.contains(QRegularExpression(QStringLiteral("^\\D.*[A-Za-z]|^[A-Za-z]"))) &&
+                shown.value(index) != tool.mockSwedish(text))
+                untranslated << english.value(QStringLiteral("path")).toString() + QLatin1Char(' ') + quoted(text);
+        }
+    }
+    const QJsonArray children = english.value(QStringLiteral("children")).toArray();
+    const QJsonArray mockedChildren = mocked.value(QStringLiteral("children")).toArray();
+    for (int index = 0; index < children.size(); ++index)
+        collectUntranslated(children.at(index).toObject(), mockedChildren.at(index).toObject(), tool, untranslated);
 }
 
 QJsonObject childNamed(const QJsonObject& node, const QString& name)
@@ -59,83 +202,125 @@ class ObjectMapTest : public QObject
     Q_OBJECT
 
 private slots:
-    void describesWhatRobotsAddress();
-    void everyFormWidgetAppearsWithItsClass();
+    void initTestCase();
+    void matchesBaseline_data();
+    void matchesBaseline();
+    void mockLocaleTranslatesEveryText();
+    void describesWhereRobotsClick();
     void unwritableMapIsReported();
     void contactSheetEscapesTexts();
+
+private:
+    void acceptBaselines();
+
+    QJsonArray m_english;
+    QMap<QString, QStringList> m_windows;
 };
 
-void ObjectMapTest::describesWhatRobotsAddress()
+void ObjectMapTest::initTestCase()
+{
+    m_english = mapWindows({});
+    m_windows = baselines(m_english);
+    QVERIFY(m_windows.size() > 10);
+    if (qEnvironmentVariableIntValue("TWC_ACCEPT_OBJECT_MAP") == 1)
+        acceptBaselines();
+}
+
+void ObjectMapTest::acceptBaselines()
+{
+    QDir directory(baselineDirectory);
+    QVERIFY(directory.mkpath(QStringLiteral(".")));
+    for (const QString& file : directory.entryList({QLatin1Char('*') + baselineSuffix}, QDir::Files))
+        QVERIFY(directory.remove(file));
+    for (auto window = m_windows.cbegin(); window != m_windows.cend(); ++window) {
+        const QString path = directory.filePath(window.key() + baselineSuffix);
+        QVERIFY2(writeLines(path, window.value()), qPrintable(path));
+    }
+    qInfo("Accepted %d windows into %s", m_windows.size(), qPrintable(baselineDirectory));
+}
+
+void ObjectMapTest::matchesBaseline_data()
+{
+    QTest::addColumn<QString>("window");
+    QStringList names = QDir(baselineDirectory).entryList({QLatin1Char('*') + baselineSuffix}, QDir::Files);
+    for (QString& name : names)
+        name.chop(baselineSuffix.size());
+    names += m_windows.keys();
+    names.removeDuplicates();
+    names.sort();
+    for (const QString& name : qAsConst(names))
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+// A robot-visible change names the window and the first node it touches, with both versions.
+void ObjectMapTest::matchesBaseline()
+{
+    QFETCH(QString, window);
+    const QString file = QDir(baselineDirectory).filePath(window + baselineSuffix);
+    if (!QFile::exists(file))
+        QFAIL(qPrintable(QStringLiteral("window %1 has no baseline; accept it with %2").arg(window, acceptCommand)));
+    if (!m_windows.contains(window))
+        QFAIL(qPrintable(QStringLiteral("baseline %1 has no window any more; remove it with %2")
+                             .arg(window + baselineSuffix, acceptCommand)));
+    const QStringList expected = readLines(file);
+    const QStringList actual = m_windows.value(window);
+    const QStringList gone = onlyInFirst(expected, actual);
+    const QStringList added = onlyInFirst(actual, expected);
+    if (gone.isEmpty() && added.isEmpty())
+        return;
+    const QString none = QStringLiteral("(nothing)");
+    QFAIL(qPrintable(
+        QStringLiteral("window %1, node %2 differs from its baseline (lines gone: %3, new: %4)\n"
+                       "   expected: %5\n   actual:   %6\n"
+                       "After an intended change accept it with %7 and review git diff autotests/app/objectmap.")
+            .arg(window, pathOf(gone.isEmpty() ? added.first() : gone.first()))
+            .arg(gone.size())
+            .arg(added.size())
+            .arg(gone.value(0, none), added.value(0, none), acceptCommand)));
+}
+
+// With the mock translation every text that a user reads in any window shows in mock Swedish.
+void ObjectMapTest::mockLocaleTranslatesEveryText()
+{
+    if (!TWC_HAS_MOCK_TRANSLATION)
+        QSKIP("built without lupdate and lrelease");
+    const QJsonArray mocked = mapWindows({QStringLiteral("--mock-locale")});
+    QCOMPARE(mocked.size(), m_english.size());
+    const TranslationFileTool tool;
+    QStringList untranslated;
+    for (int index = 0; index < mocked.size(); ++index) {
+        const auto window = [](const QJsonValue& entry) {
+            return entry.toObject().value(QStringLiteral("window")).toObject();
+        };
+        collectUntranslated(window(m_english.at(index)), window(mocked.at(index)), tool, untranslated);
+    }
+    QVERIFY2(untranslated.isEmpty(),
+             qPrintable(QStringLiteral("texts that stay English:\n") + untranslated.join(QLatin1Char('\n'))));
+}
+
+// Where a robot clicks, which the baseline leaves out: geometry in the parent and in the window,
+// through unnamed containers that add no step to the path.
+void ObjectMapTest::describesWhereRobotsClick()
 {
     QWidget window;
     window.setObjectName(QStringLiteral("form"));
-    window.setWindowTitle(QStringLiteral("Form"));
     auto* unnamed = new QWidget(&window);
-    auto* group = new QGroupBox(QStringLiteral("Limits"), unnamed);
-    group->setObjectName(QStringLiteral("limitsBox"));
-    auto* edit = new QLineEdit(QStringLiteral("12.5"), group);
+    auto* edit = new QLineEdit(unnamed);
     edit->setObjectName(QStringLiteral("minimumEdit"));
     edit->setGeometry(4, 20, 80, 24);
-    edit->setEnabled(false);
     unnamed->move(10, 5);
-    group->move(3, 0);
     window.show();
 
-    const QJsonObject root = ObjectMap::describe(&window, QString());
-    QCOMPARE(root.value(QStringLiteral("windowTitle")).toString(), QStringLiteral("Form"));
-    const QJsonObject box = childNamed(childNamed(root, QString()), QStringLiteral("limitsBox"));
-    QCOMPARE(box.value(QStringLiteral("path")).toString(), QStringLiteral("form/limitsBox"));
-    QCOMPARE(box.value(QStringLiteral("title")).toString(), QStringLiteral("Limits"));
-    QVERIFY(!box.contains(QStringLiteral("windowTitle")));
-    const QJsonObject node = childNamed(box, QStringLiteral("minimumEdit"));
-    QCOMPARE(node.value(QStringLiteral("path")).toString(), QStringLiteral("form/limitsBox/minimumEdit"));
-    QCOMPARE(node.value(QStringLiteral("classes")).toArray(),
-             QJsonArray({QStringLiteral("QLineEdit"), QStringLiteral("QWidget"), QStringLiteral("QObject")}));
-    QCOMPARE(node.value(QStringLiteral("text")).toString(), QStringLiteral("12.5"));
-    QCOMPARE(node.value(QStringLiteral("enabled")).toBool(), false);
+    const QJsonObject node =
+        childNamed(childNamed(ObjectMap::describe(&window, QString()), QString()), QStringLiteral("minimumEdit"));
+    QCOMPARE(node.value(QStringLiteral("path")).toString(), QStringLiteral("form/minimumEdit"));
     QCOMPARE(node.value(QStringLiteral("visible")).toBool(), true);
     const QJsonObject geometry = node.value(QStringLiteral("geometry")).toObject();
     QCOMPARE(geometry.value(QStringLiteral("x")).toInt(), 4);
     QCOMPARE(geometry.value(QStringLiteral("width")).toInt(), 80);
     const QJsonObject inWindow = node.value(QStringLiteral("windowGeometry")).toObject();
-    QCOMPARE(inWindow.value(QStringLiteral("x")).toInt(), 17);
+    QCOMPARE(inWindow.value(QStringLiteral("x")).toInt(), 14);
     QCOMPARE(inWindow.value(QStringLiteral("y")).toInt(), 25);
-}
-
-void ObjectMapTest::everyFormWidgetAppearsWithItsClass()
-{
-    QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("map.json"));
-    {
-        HostApplication host;
-        QCOMPARE(host.start({QStringLiteral("testwidgetcollection"), QStringLiteral("--object-map"), path}), 0);
-    }
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QJsonArray windows =
-        QJsonDocument::fromJson(file.readAll()).object().value(QStringLiteral("windows")).toArray();
-    QVERIFY(windows.size() > 10);
-    QMultiHash<QString, QStringList> classesByName;
-    for (const QJsonValue& window : windows)
-        collectClasses(window.toObject().value(QStringLiteral("window")).toObject(), classesByName);
-
-    int checked = 0;
-    for (const char* folder : {"launcher", "tests"}) {
-        QDirIterator forms(QStringLiteral(TWC_SOURCE_DIR "/") + QLatin1String(folder), {QStringLiteral("*.ui")},
-                           QDir::Files, QDirIterator::Subdirectories);
-        while (forms.hasNext()) {
-            const QString form = forms.next();
-            for (const FormWidget& widget : formWidgets(form)) {
-                const QList<QStringList> found = classesByName.values(widget.first);
-                const bool matches = std::any_of(found.begin(), found.end(), [&](const QStringList& classes) {
-                    return classes.contains(widget.second);
-                });
-                QVERIFY2(matches, qPrintable(QStringLiteral("%1: %2 (%3)").arg(form, widget.first, widget.second)));
-                ++checked;
-            }
-        }
-    }
-    QVERIFY(checked > 100);
 }
 
 void ObjectMapTest::unwritableMapIsReported()

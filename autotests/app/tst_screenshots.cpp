@@ -1,6 +1,6 @@
-#include <QDir>
+#include "ReproducibleRun.h"
+
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -11,46 +11,10 @@
 namespace {
 const QString referenceDirectory = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshots");
 const QString resultsDirectory = QStringLiteral(TWC_BINARY_DIR "/screenshot-results");
-const QString fontConfiguration = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshot-fonts.conf");
 const QString acceptCommand = QStringLiteral("scripts/accept-screenshots.sh");
 // Compressed as far as PNG goes, to keep the references small.
 const int referenceQuality = 0;
 const QRgb differentPixel = qRgb(255, 0, 0);
-
-bool isMachineSetting(const QString& name)
-{
-    for (const char* prefix : {"QT_", "LC_", "XDG_", "FONTCONFIG"}) {
-        if (name.startsWith(QLatin1String(prefix)))
-            return true;
-    }
-    for (const char* variable : {"LANG", "LANGUAGE", "TZ", "HOME", "DISPLAY", "WAYLAND_DISPLAY"}) {
-        if (name == QLatin1String(variable))
-            return true;
-    }
-    return false;
-}
-
-// The run sees neither the user's home, fonts, locale and time zone nor their Qt settings.
-QProcessEnvironment reproducibleEnvironment(const QDir& home)
-{
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    const QStringList names = environment.keys();
-    for (const QString& name : names) {
-        if (isMachineSetting(name))
-            environment.remove(name);
-    }
-    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    environment.insert(QStringLiteral("LANG"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
-    environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral("cache")));
-    environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
-    environment.insert(QStringLiteral("FONTCONFIG_FILE"), fontConfiguration);
-    return environment;
-}
 
 QStringList screenshotNames(const QDir& directory)
 {
@@ -109,13 +73,7 @@ private:
 
 bool ScreenshotsTest::takeScreenshots(const QProcessEnvironment& environment, const QString& directory)
 {
-    QProcess host;
-    host.setProcessEnvironment(environment);
-    host.start(QStringLiteral(HOST_EXECUTABLE), {QStringLiteral("--screenshot"), directory});
-    const bool ok = host.waitForFinished(240000) && host.exitStatus() == QProcess::NormalExit && host.exitCode() == 0;
-    if (!ok)
-        qWarning("%s", host.readAllStandardError().constData());
-    return ok;
+    return ReproducibleRun::runHost(environment, {QStringLiteral("--screenshot"), directory});
 }
 
 void ScreenshotsTest::acceptScreenshots()
@@ -135,10 +93,10 @@ void ScreenshotsTest::acceptScreenshots()
 void ScreenshotsTest::initTestCase()
 {
     QVERIFY(m_home.isValid() && m_screenshots.isValid());
-    QVERIFY2(QFile::exists(fontConfiguration), qPrintable(fontConfiguration));
-    QVERIFY2(QFile::exists(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf")),
+    QVERIFY2(QFile::exists(ReproducibleRun::fontConfiguration), qPrintable(ReproducibleRun::fontConfiguration));
+    QVERIFY2(QFile::exists(ReproducibleRun::fontFile),
              "the references show Debian's fonts-dejavu-core: install it with scripts/bootstrap.sh");
-    QVERIFY2(takeScreenshots(reproducibleEnvironment(QDir(m_home.path())), m_screenshots.path()),
+    QVERIFY2(takeScreenshots(ReproducibleRun::environment(QDir(m_home.path())), m_screenshots.path()),
              "the screenshot run failed");
     QVERIFY(QDir(resultsDirectory).removeRecursively() && QDir().mkpath(resultsDirectory));
     if (qEnvironmentVariableIntValue("TWC_ACCEPT_SCREENSHOTS") == 1)
@@ -190,7 +148,7 @@ void ScreenshotsTest::matchesReference()
 // A designer's own scaling, style, font resolution, language and time zone change nothing.
 void ScreenshotsTest::ignoresUserSettings()
 {
-    QProcessEnvironment environment = reproducibleEnvironment(QDir(m_home.path()));
+    QProcessEnvironment environment = ReproducibleRun::environment(QDir(m_home.path()));
     environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QStringLiteral("2"));
     environment.insert(QStringLiteral("QT_STYLE_OVERRIDE"), QStringLiteral("Windows"));
     environment.insert(QStringLiteral("QT_FONT_DPI"), QStringLiteral("120"));

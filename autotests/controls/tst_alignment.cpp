@@ -1,11 +1,5 @@
 #include "TestAlignment.h"
 
-#include <VNButton.h>
-#include <VNDoubleSpinBox.h>
-#include <VNLineEdit.h>
-#include <VNMenu.h>
-#include <VNPushButton.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QTest>
@@ -17,107 +11,12 @@ class TestAlignmentDialog : public QObject
 private slots:
     void cleanup();
 
-    void form();
-    void threeButtonsCarryMenus_data();
-    void threeButtonsCarryMenus();
-    void rowsShareEdges();
     void guidesRunAlongFieldEdges();
 };
 
 void TestAlignmentDialog::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-// What robots rely on: the names, classes and texts of the form, one row per column of the grid.
-void TestAlignmentDialog::form()
-{
-    const char* widgets[][3] = {
-        {"m_showGuides", "QCheckBox", "Show guide lines"},
-        {"m_headerState", "VNLabel", "State"},
-        {"m_headerLabel", "VNLabel", "VNLabel"},
-        {"m_headerLineEdit", "VNLabel", "VNLineEdit"},
-        {"m_headerSpinBox", "VNLabel", "VNDoubleSpinBox"},
-        {"m_headerPushButton", "VNLabel", "VNPushButton"},
-        {"m_headerMenuButton", "VNLabel", "Menu button"},
-        {"m_stateNormal", "QLabel", "Normal"},
-        {"m_stateNeedInput", "QLabel", "Need input"},
-        {"m_stateReadOnly", "QLabel", "Read-only"},
-        {"m_stateDisabled", "QLabel", "Disabled"},
-        {"m_labelNormal", "VNLabel", "Length:"},
-        {"m_lineEditNormal", "VNLineEdit", "Beam 1"},
-        {"m_lineEditNeedInput", "VNLineEdit", ""},
-        {"m_lineEditReadOnly", "VNLineEdit", "Fixed support"},
-        {"m_lineEditDisabled", "VNLineEdit", "Not used"},
-        {"m_spinBoxNormal", "VNDoubleSpinBox", nullptr},
-        {"m_pushButtonNormal", "VNPushButton", "Apply"},
-        {"m_fileMenuButton", "VNPushButton", "File"},
-        {"m_editMenuButton", "VNButton", "Edit"},
-        {"m_viewMenuButton", "VNButton", "View"},
-        {"m_toolButtonDisabled", "VNButton", "Tool"},
-        {"m_baselineLabel", "VNLabel", "Baseline xg:"},
-        {"m_baselineLineEdit", "VNLineEdit", "Text xg"},
-        {"m_baselineSpinBox", "VNDoubleSpinBox", nullptr},
-        {"m_baselinePushButton", "VNPushButton", "Button xg"},
-    };
-    TestAlignment dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestAlignment"));
-    for (const auto& expected : widgets) {
-        QWidget* widget = dialog.findChild<QWidget*>(QLatin1String(expected[0]));
-        QVERIFY2(widget, expected[0]);
-        QCOMPARE(widget->metaObject()->className(), expected[1]);
-        if (expected[2])
-            QCOMPARE(widget->property("text").toString(), QString::fromUtf8(expected[2]));
-    }
-    QCOMPARE(dialog.findChildren<VNLineEdit*>().size(), 5);
-    QCOMPARE(dialog.findChildren<VNDoubleSpinBox*>().size(), 5);
-}
-
-void TestAlignmentDialog::threeButtonsCarryMenus_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<int>("actions");
-    QTest::newRow("file") << "m_fileMenuButton"
-                          << "m_fileMenu" << 4;
-    QTest::newRow("edit") << "m_editMenuButton"
-                          << "m_editMenu" << 5;
-    QTest::newRow("view") << "m_viewMenuButton"
-                          << "m_viewMenu" << 3;
-}
-
-void TestAlignmentDialog::threeButtonsCarryMenus()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, menu);
-    QFETCH(int, actions);
-    TestAlignment dialog(nullptr);
-    QWidget* owner = dialog.findChild<QWidget*>(button);
-    QVERIFY(owner);
-    QMenu* attached = nullptr;
-    if (auto* pushButton = qobject_cast<QPushButton*>(owner))
-        attached = pushButton->menu();
-    else if (auto* toolButton = qobject_cast<QToolButton*>(owner))
-        attached = toolButton->menu();
-    QVERIFY(qobject_cast<VNMenu*>(attached));
-    QCOMPARE(attached->objectName(), menu);
-    QCOMPARE(attached->actions().size(), actions);
-}
-
-void TestAlignmentDialog::rowsShareEdges()
-{
-    TestAlignment dialog(nullptr);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    for (const char* row : {"Normal", "NeedInput", "ReadOnly", "Disabled"}) {
-        const QRect edit = dialog.findChild<QWidget*>(QStringLiteral("m_lineEdit%1").arg(row))->geometry();
-        const QRect field = dialog.findChild<QWidget*>(QStringLiteral("m_spinBox%1").arg(row))->geometry();
-        QCOMPARE(field.center().y(), edit.center().y());
-    }
-    const QRect top = dialog.findChild<QWidget*>("m_spinBoxNormal")->geometry();
-    const QRect bottom = dialog.findChild<QWidget*>("m_spinBoxDisabled")->geometry();
-    QCOMPARE(bottom.left(), top.left());
-    QCOMPARE(bottom.width(), top.width());
 }
 
 void TestAlignmentDialog::guidesRunAlongFieldEdges()

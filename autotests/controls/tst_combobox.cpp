@@ -1,4 +1,4 @@
-#include "../FormRows.h"
+#include "../TestSupport.h"
 #include "Loupe.h"
 #include "TestComboBox.h"
 #include "TestWidgetCollection.h"
@@ -32,20 +32,6 @@ QStringList texts(const QComboBox* combo)
         result << combo->itemText(i);
     return result;
 }
-
-template<typename T = QComboBox>
-T* child(QWidget* dialog, const char* name)
-{
-    T* found = dialog->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("missing %s", name);
-    return found;
-}
-
-void click(QWidget* dialog, const char* button)
-{
-    child<QPushButton>(dialog, button)->click();
-}
 } // namespace
 
 class ComboBoxTest : public QObject
@@ -54,10 +40,7 @@ class ComboBoxTest : public QObject
 
 private slots:
     void cleanup();
-    void form_data();
-    void form();
     void standardItemsAndIcons();
-    void filterComboBoxItems();
     void addEntryUsesDefaultAndCurrentStatus();
     void bulkButtonsLeaveNumberComboAlone();
     void restoreRefillsEverything();
@@ -83,64 +66,16 @@ void ComboBoxTest::cleanup()
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void ComboBoxTest::form_data()
-{
-    addFormRows({
-        {"label", "QLabel", "QComboBox"},
-        {"label_2", "QLabel", "VNComboBox"},
-        {"label_3", "QLabel", "editable VNComboBox"},
-        {"label_4", "QLabel", "sizehint fixed VNCombo"},
-        {"label_5", "QLabel", "sizehint fixed QCombo"},
-        {"add", "QPushButton", "Add Entry"},
-        {"deleteCurrent", "QPushButton", "Delete Current"},
-        {"deleteAll", "QPushButton", "Delete All"},
-        {"restore", "QPushButton", "Restore"},
-        {"addSeparator", "QPushButton", "Add Separator"},
-        {"radioIcon", "QRadioButton", "IconOnly"},
-        {"radioText", "QRadioButton", "TextOnly"},
-        {"radioIconText", "QRadioButton", "Icon & Text"},
-        {"vnLabel_4", "VNLabel", "VNComboBox observeItemsForWidgetStatus"},
-        {"vnLabel", "VNLabel", "DoubleComboBox"},
-        {"vnLabel_2", "VNLabel", "Double ComboBox with Unit"},
-        {"vnLabel_3", "VNLabel", "VNGroupableComboBox"},
-        {"comboOutput", "QLabel", "TextLabel"},
-        {"itemText", "QLineEdit", "default"},
-        {"comboBox", "QComboBox", ""},
-        {"comboBox_2", "QComboBox", ""},
-        {"comboBox_6", "QComboBox", ""},
-        {"comboBox_3", "VNComboBox", ""},
-        {"comboBox_9", "VNComboBox", ""},
-        {"comboBox_15", "VNComboBox", ""},
-        {"m_widgetStatusCB", "VNComboBox", ""},
-        {"m_widgetStatusCB_2", "VNComboBox", ""},
-        {"vnDoubleComboBox", "VNComboBox", ""},
-        {"vnUnitComboBox", "VNComboBoxDoubleInput", ""},
-        {"comboDeg", "VNComboBoxDoubleInput", ""},
-        {"groupableCB", "VNGroupableComboBox", ""},
-    });
-}
-
-void ComboBoxTest::form()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    TestComboBox dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TestComboBoxClass"));
-    QCOMPARE(dialog.windowTitle(), QString("TestComboBox"));
-    QVERIFY(formShows(dialog, name, className, text));
-}
-
+// The items' texts are in the object-map baseline; their icons and statuses are not.
 void ComboBoxTest::standardItemsAndIcons()
 {
     TestComboBox dialog(nullptr);
-    for (const char* name : {"comboBox", "comboBox_2", "comboBox_4", "comboBox_9", "comboBox_14", "comboBox_15"})
-        QCOMPARE(texts(child(&dialog, name)), standardItems);
-    auto* withIcons = child(&dialog, "comboBox_3");
+    QVERIFY(!dialog.findChild<VNFilterComboBox*>()->itemIcon(0).isNull());
+    auto* withIcons = child<QComboBox>(&dialog, "comboBox_3");
     QVERIFY(!withIcons->itemIcon(0).pixmap(16).isNull());
     QVERIFY(!withIcons->itemIcon(1).pixmap(16).isNull());
     QVERIFY(withIcons->itemIcon(2).isNull());
-    QVERIFY(child(&dialog, "comboBox_4")->itemIcon(0).isNull());
+    QVERIFY(child<QComboBox>(&dialog, "comboBox_4")->itemIcon(0).isNull());
     auto* nine = child<VNComboBox>(&dialog, "comboBox_9");
     QVERIFY(nine->isUserEditStatus());
     QCOMPARE(nine->property("statusLook").toString(), QString("userEdit"));
@@ -149,25 +84,16 @@ void ComboBoxTest::standardItemsAndIcons()
     QCOMPARE(empty->count(), 0);
     QVERIFY(empty->isNeedInputStatus());
     QCOMPARE(empty->property("statusLook").toString(), QString("needInput"));
-    click(&dialog, "add");
+    clickButton(&dialog, "add");
     QCOMPARE(empty->property("statusLook").toString(), QString("undef"));
-}
-
-void ComboBoxTest::filterComboBoxItems()
-{
-    TestComboBox dialog(nullptr);
-    auto* filter = dialog.findChild<VNFilterComboBox*>();
-    QVERIFY(filter);
-    QCOMPARE(texts(filter), standardItems);
-    QVERIFY(!filter->itemIcon(0).isNull());
 }
 
 void ComboBoxTest::addEntryUsesDefaultAndCurrentStatus()
 {
     TestComboBox dialog(nullptr);
     child<QLineEdit>(&dialog, "itemText")->clear();
-    child(&dialog, "m_widgetStatusCB")->setCurrentIndex(1);
-    click(&dialog, "add");
+    child<QComboBox>(&dialog, "m_widgetStatusCB")->setCurrentIndex(1);
+    clickButton(&dialog, "add");
     for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
         if (combo->objectName() == QLatin1String("vnDoubleComboBox"))
             continue;
@@ -176,8 +102,8 @@ void ComboBoxTest::addEntryUsesDefaultAndCurrentStatus()
             QCOMPARE(int(vnCombo->itemWidgetStatus(vnCombo->count() - 1)), 0x20);
     }
     child<QLineEdit>(&dialog, "itemText")->setText("Typed");
-    click(&dialog, "add");
-    QCOMPARE(child(&dialog, "comboBox_6")->itemText(5), QString("Typed"));
+    clickButton(&dialog, "add");
+    QCOMPARE(child<QComboBox>(&dialog, "comboBox_6")->itemText(5), QString("Typed"));
 }
 
 void ComboBoxTest::bulkButtonsLeaveNumberComboAlone()
@@ -187,7 +113,7 @@ void ComboBoxTest::bulkButtonsLeaveNumberComboAlone()
     const QStringList before = texts(numbers);
     QCOMPARE(before.size(), 5);
     for (const char* button : {"add", "addSeparator", "deleteCurrent", "deleteAll", "restore", "add"})
-        click(&dialog, button);
+        clickButton(&dialog, button);
     child<QRadioButton>(&dialog, "radioText")->click();
     QCOMPARE(texts(numbers), before);
     QCOMPARE(numbers->comboBoxStyle(), VNComboBox::IconAndText);
@@ -196,16 +122,16 @@ void ComboBoxTest::bulkButtonsLeaveNumberComboAlone()
 void ComboBoxTest::restoreRefillsEverything()
 {
     TestComboBox dialog(nullptr);
-    click(&dialog, "deleteAll");
-    QCOMPARE(child(&dialog, "comboBox_2")->count(), 0);
-    QCOMPARE(child(&dialog, "groupableCB")->count(), 0);
-    click(&dialog, "addSeparator");
-    click(&dialog, "restore");
+    clickButton(&dialog, "deleteAll");
+    QCOMPARE(child<QComboBox>(&dialog, "comboBox_2")->count(), 0);
+    QCOMPARE(child<QComboBox>(&dialog, "groupableCB")->count(), 0);
+    clickButton(&dialog, "addSeparator");
+    clickButton(&dialog, "restore");
     for (const char* name : {"comboDeg", "vnUnitComboBox", "comboBox_2", "comboBox_10"})
-        QCOMPARE(texts(child(&dialog, name)), standardItems);
+        QCOMPARE(texts(child<QComboBox>(&dialog, name)), standardItems);
     QCOMPARE(texts(dialog.findChild<VNFilterComboBox*>()), standardItems);
-    QCOMPARE(child(&dialog, "m_widgetStatusCB")->count(), 7);
-    QCOMPARE(child(&dialog, "m_widgetStatusCB_2")->count(), 0);
+    QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB")->count(), 7);
+    QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB_2")->count(), 0);
     auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
     QCOMPARE(groups->count(), 3);
     QCOMPARE(groups->currentText(), QString("Child 12"));
@@ -300,15 +226,9 @@ void ComboBoxTest::numberComboItems()
     auto* numbers = child<VNComboBox>(&dialog, "vnDoubleComboBox");
     QVERIFY(qobject_cast<VNValueEdit*>(numbers->lineEdit()));
     QCOMPARE(numbers->insertPolicy(), QComboBox::NoInsert);
-    VNFormatter plain;
-    QStringList expected;
-    for (double value : {0.1, 0.2, 0.5, 1.0, 10.0})
-        expected << plain.textFromValue(value, false);
-    QCOMPARE(texts(numbers), expected);
-    QCOMPARE(expected.at(2).toDouble(), 0.5);
+    // The items' texts are in the object-map baseline; what they stand for is not.
+    QCOMPARE(VNFormatter().valueFromText(numbers->itemText(2)), 0.5);
     auto* millimetres = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
-    QCOMPARE(millimetres->count(), 4);
-    QVERIFY(millimetres->itemText(2).endsWith("mm"));
     QCOMPARE(millimetres->formatter()->valueFromText(millimetres->itemText(2)), 25.0);
 }
 
@@ -352,8 +272,7 @@ void ComboBoxTest::degreeSpecialValues()
     QFETCH(QString, output);
     TestComboBox dialog(nullptr);
     auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
-    QCOMPARE(texts(degrees), QStringList({"Automatic Direction", "X", "Y"}));
-    click(&dialog, "add");
+    clickButton(&dialog, "add");
     degrees->setCurrentIndex(index);
     emit degrees->activated(index);
     QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), output);

@@ -6,12 +6,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
-#include <QMetaEnum>
 #include <QRadioButton>
 #include <QTest>
 
 namespace {
-const QStringList optionKeys{"NoOption", "Sketch", "PickPoints", "Coordinates", "Formula", "ImportFile"};
 
 template<typename T>
 QList<T*> column(QWidget* dialog, const char* container)
@@ -46,10 +44,6 @@ class CurveInputControlTest : public QObject
 
 private slots:
     void cleanup();
-    void form();
-    void optionButtonsFollowTheEnum();
-    void initialChecks_data();
-    void initialChecks();
     void availableTogglesMenuEntries();
     void enabledTogglesMenuEntries();
     void zeroOptionOnlyForEmptySet();
@@ -62,65 +56,6 @@ private slots:
 void CurveInputControlTest::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void CurveInputControlTest::form()
-{
-    TestCurveInputControl dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TestCurveInputControlClass"));
-    QCOMPARE(dialog.windowTitle(), QString("Form"));
-    QVERIFY(dialog.findChild<VNCurveInputControl*>("vnCurveInputControl"));
-    QCOMPARE(dialog.findChild<QCheckBox*>("enableCheckbox")->text(), QString("Enabled"));
-    auto* types = dialog.findChild<QComboBox*>("inputTypeCombo");
-    QCOMPARE(types->count(), 3);
-    QCOMPARE(types->itemText(0), QString("Line"));
-    QCOMPARE(types->itemText(1), QString("Point"));
-    QCOMPARE(types->itemText(2), QString("Generic"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_14")->text(), QString("Available"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_15")->text(), QString("Enabled"));
-    QCOMPARE(dialog.findChild<QLabel*>("label_16")->text(), QString("Default"));
-}
-
-void CurveInputControlTest::optionButtonsFollowTheEnum()
-{
-    TestCurveInputControl dialog(nullptr);
-    const auto keys = [](const auto& buttons) {
-        QStringList texts;
-        for (auto* button : buttons)
-            texts << button->text();
-        return texts;
-    };
-    QCOMPARE(keys(column<QCheckBox>(&dialog, "widgetA")), optionKeys);
-    QCOMPARE(keys(column<QCheckBox>(&dialog, "widgetE")), optionKeys);
-    QCOMPARE(keys(column<QRadioButton>(&dialog, "widgetD")), optionKeys);
-    const QMetaEnum options = VNCurveInputControl::staticMetaObject.enumerator(
-        VNCurveInputControl::staticMetaObject.indexOfEnumerator("Option"));
-    QCOMPARE(options.keyCount(), optionKeys.size());
-}
-
-void CurveInputControlTest::initialChecks_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<bool>("available");
-    QTest::addColumn<bool>("isDefault");
-    QTest::newRow("NoOption") << "NoOption" << false << false;
-    QTest::newRow("Sketch") << "Sketch" << true << true;
-    QTest::newRow("PickPoints") << "PickPoints" << true << false;
-    QTest::newRow("Coordinates") << "Coordinates" << true << false;
-    QTest::newRow("Formula") << "Formula" << false << false;
-    QTest::newRow("ImportFile") << "ImportFile" << false << false;
-}
-
-void CurveInputControlTest::initialChecks()
-{
-    QFETCH(QString, key);
-    QFETCH(bool, available);
-    QFETCH(bool, isDefault);
-    TestCurveInputControl dialog(nullptr);
-    QCOMPARE(optionButton<QCheckBox>(&dialog, "widgetA", key)->isChecked(), available);
-    QCOMPARE(optionButton<QCheckBox>(&dialog, "widgetE", key)->isChecked(), available);
-    QCOMPARE(optionButton<QRadioButton>(&dialog, "widgetD", key)->isChecked(), isDefault);
-    QVERIFY(dialog.findChild<QCheckBox*>("enableCheckbox")->isChecked());
 }
 
 void CurveInputControlTest::availableTogglesMenuEntries()

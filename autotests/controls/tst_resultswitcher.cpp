@@ -11,8 +11,6 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QElapsedTimer>
-#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
@@ -34,11 +32,7 @@ class TestResultSwitcher : public QObject
 private slots:
     void cleanup();
 
-    void form_data();
-    void form();
     void insertionOrder();
-    void menusOnButtons();
-    void partsAreSeparated();
     void enableCheckBoxReachesEveryButton();
     void countsAreNotRefreshed();
     void buttonsAreExclusive();
@@ -49,34 +43,6 @@ private slots:
 void TestResultSwitcher::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestResultSwitcher::form_data()
-{
-    QTest::addColumn<QString>("switcher");
-    QTest::addColumn<QString>("label");
-    QTest::addColumn<QString>("count");
-    const auto row = [](const char* tag, const char* switcher, const char* label, const char* count) {
-        QTest::newRow(tag) << switcher << label << count;
-    };
-    row("single", "m_resultSwitcherSingle", "m_countSingle", "1");
-    row("menus", "m_resultSwitcher", "m_count", "4");
-    row("multi", "m_resultSwitcherMulti", "m_countMulti", "10");
-}
-
-void TestResultSwitcher::form()
-{
-    QFETCH(QString, switcher);
-    QFETCH(QString, label);
-    QFETCH(QString, count);
-    TestVNResultSwitcher dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestVNResultSwitcher"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestVNResultSwitcher"));
-    QVERIFY(dialog.findChild<VNResultSwitcher*>(switcher));
-    QCOMPARE(dialog.findChild<VNLabel*>(label)->text(), count);
-    auto* enable = dialog.findChild<QCheckBox*>("m_enableCB");
-    QCOMPARE(enable->text(), QStringLiteral("Set Enabled"));
-    QVERIFY(enable->isChecked());
 }
 
 void TestResultSwitcher::insertionOrder()
@@ -91,32 +57,6 @@ void TestResultSwitcher::insertionOrder()
     QCOMPARE(buttonTexts(multi).last(), QStringLiteral("Test 9"));
     QCOMPARE(multi->part(4), 0);
     QCOMPARE(multi->part(5), 1);
-}
-
-void TestResultSwitcher::menusOnButtons()
-{
-    TestVNResultSwitcher dialog(nullptr);
-    auto* switcher = dialog.findChild<VNResultSwitcher*>("m_resultSwitcher");
-    const bool hasMenu[] = {false, true, false, true};
-    for (int i = 0; i < 4; ++i) {
-        QCOMPARE(switcher->button(i)->menu() != nullptr, hasMenu[i]);
-        if (hasMenu[i]) {
-            QCOMPARE(switcher->button(i)->popupMode(), QToolButton::MenuButtonPopup);
-            QCOMPARE(switcher->button(i)->menu()->actions().first()->text(), QStringLiteral("Action 2"));
-        }
-    }
-}
-
-void TestResultSwitcher::partsAreSeparated()
-{
-    TestVNResultSwitcher dialog(nullptr);
-    dialog.resize(500, 265);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    auto* multi = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherMulti");
-    const int inside = multi->button(4)->geometry().left() - multi->button(3)->geometry().right();
-    const int between = multi->button(5)->geometry().left() - multi->button(4)->geometry().right();
-    QVERIFY(between >= inside + VNResultSwitcher::partGap);
 }
 
 void TestResultSwitcher::enableCheckBoxReachesEveryButton()

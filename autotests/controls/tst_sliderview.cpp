@@ -1,25 +1,13 @@
+#include "../TestSupport.h"
 #include "TestVNSliderView.h"
 
-#include <VNLabel.h>
 #include <VNSlider.h>
 
-#include "../FormRows.h"
-
 #include <QApplication>
-#include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
 
 namespace {
-template<typename T>
-T* child(QWidget* dialog, const char* name)
-{
-    T* found = dialog->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("missing %s", name);
-    return found;
-}
-
 QSpinBox* spin(QWidget* dialog, const char* name)
 {
     return child<QSpinBox>(dialog, name);
@@ -37,13 +25,6 @@ QList<QPair<int, int>> intervals(const VNSlider* slider)
         result << qMakePair(marker.from, marker.to);
     return result;
 }
-
-void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& pos)
-{
-    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, pos, widget->mapToGlobal(pos), Qt::LeftButton, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
 } // namespace
 
 class SliderViewTest : public QObject
@@ -52,8 +33,6 @@ class SliderViewTest : public QObject
 
 private slots:
     void cleanup();
-    void form_data();
-    void form();
     void seededSigmaSlider();
     void draggingAdmissibleRangeUpdatesSpinBoxes();
     void spinBoxesRebuildMarkings();
@@ -73,71 +52,6 @@ void SliderViewTest::cleanup()
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void SliderViewTest::form_data()
-{
-    addFormRows({
-        {"m_vnSlider", "VNSlider", ""},
-        {"m_extendedSlider", "VNSlider", ""},
-        {"m_spanSlider", "VNSlider", ""},
-        {"m_plotSlider", "VNSlider", ""},
-        {"m_sigmaSlider", "VNSlider", ""},
-        {"m_verticalVNSlider", "VNSlider", ""},
-        {"m_verticalQSlider", "QSlider", ""},
-        {"vnLabel_4", "VNLabel", "Display"},
-        {"vnLabel_3", "VNLabel", "Range"},
-        {"vnLabel_2", "VNLabel", "Marker"},
-        {"vnLabel", "VNLabel", "Color"},
-        {"vnLabel_5", "VNLabel", "QSlider"},
-        {"vnLabel_6", "VNLabel", "VNSlider"},
-        {"def_extend", "QCheckBox", "Extend"},
-        {"def_fill", "QCheckBox", "Fill"},
-        {"def_enabled", "QCheckBox", "Enabled"},
-        {"vert_enabled", "QCheckBox", "Enabled"},
-        {"m_gauss", "QCheckBox", "Gaussian Curve"},
-        {"m_input", "QCheckBox", "Input Mode"},
-        {"label_5", "QLabel", "Min"},
-        {"label_10", "QLabel", "Max"},
-        {"label_9", "QLabel", "Current"},
-        {"label_13", "QLabel", "Start"},
-        {"label_16", "QLabel", "End"},
-        {"label_19", "QLabel", "Red"},
-        {"label_20", "QLabel", "Green"},
-        {"label_21", "QLabel", "Blue"},
-        {"label_22", "QLabel", "Alpha"},
-        {"label_3", "QLabel", "Current"},
-        {"label", "QLabel", "Min"},
-        {"label_2", "QLabel", "Max"},
-        {"label_6", "QLabel", "Admissible Min"},
-        {"label_7", "QLabel", "Admissible Max"},
-        {"label_14", "QLabel", "Sublimit Min"},
-        {"label_15", "QLabel", "Sublimit Max"},
-        {"label_8", "QLabel", "Mark Best"},
-        {"def_add", "QToolButton", "+"},
-        {"def_default", "QToolButton", "Default"},
-        {"def_reset", "QToolButton", "Reset"},
-        {"frame", "QFrame", ""},
-        {"vnSeparator", "VNSeparator", ""},
-        {"vnSeparator_2", "VNSeparator", ""},
-    });
-}
-
-void SliderViewTest::form()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    TestVNSliderView dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QString("TestVNSliderView"));
-    QCOMPARE(dialog.windowTitle(), QString("TestVNSliderView"));
-    QVERIFY(formShows(dialog, name, className, text));
-    QWidget* widget = dialog.findChild<QWidget*>(name);
-    if (auto* label = qobject_cast<QLabel*>(widget); label && name.startsWith("label_"))
-        QVERIFY(label->buddy());
-    auto* tabs = child<QTabWidget>(&dialog, "verticalSliderWidget");
-    QCOMPARE(tabs->currentIndex(), 0);
-    QCOMPARE(tabs->tabText(1), QString("Sigma"));
-}
-
 void SliderViewTest::seededSigmaSlider()
 {
     TestVNSliderView dialog(nullptr);
@@ -152,11 +66,6 @@ void SliderViewTest::seededSigmaSlider()
     QCOMPARE(sigma->admissibleRange().minimum, 5);
     QCOMPARE(sigma->admissibleRange().maximum, 95);
     QCOMPARE(sigma->bestMark(), 55);
-    const QList<std::pair<const char*, int>> seeds = {{"m_markBest", 55},    {"m_min", 0},        {"m_max", 100},
-                                                      {"m_admissMin", 5},    {"m_admissMax", 95}, {"m_sublimitMin", 0},
-                                                      {"m_sublimitMax", 100}};
-    for (const auto& seed : seeds)
-        QCOMPARE(spin(&dialog, seed.first)->value(), seed.second);
     VNSlider* span = slider(&dialog, "m_spanSlider");
     QVERIFY(span->isSpanSlider());
     QCOMPARE(span->admissibleRange().minimum, 30);
@@ -172,9 +81,9 @@ void SliderViewTest::draggingAdmissibleRangeUpdatesSpinBoxes()
     VNSlider* sigma = slider(&dialog, "m_sigmaSlider");
     QTRY_VERIFY(sigma->isVisible());
     const int below = sigma->grooveRect().bottom() + 6;
-    sendMouse(sigma, QEvent::MouseButtonPress, QPoint(sigma->pixelPosition(95), below));
-    sendMouse(sigma, QEvent::MouseMove, QPoint(sigma->pixelPosition(70), below));
-    sendMouse(sigma, QEvent::MouseButtonRelease, QPoint(sigma->pixelPosition(70), below));
+    sendLeftButtonDrag(sigma, QEvent::MouseButtonPress, QPoint(sigma->pixelPosition(95), below));
+    sendLeftButtonDrag(sigma, QEvent::MouseMove, QPoint(sigma->pixelPosition(70), below));
+    sendLeftButtonDrag(sigma, QEvent::MouseButtonRelease, QPoint(sigma->pixelPosition(70), below));
     QCOMPARE(spin(&dialog, "m_admissMax")->value(), 70);
     QCOMPARE(spin(&dialog, "m_admissMin")->value(), 5);
     QCOMPARE(sigma->admissibleRange().maximum, 70);

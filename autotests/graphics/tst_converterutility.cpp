@@ -1,9 +1,9 @@
+#include "../TestSupport.h"
 #include "TestConverterConfig.h"
 #include "TestConverterUtility.h"
 #include "TestWidgetCollection.h"
 
 #include <FileConverterDialog.h>
-#include <FileName.h>
 
 #include <QApplication>
 #include <QLabel>
@@ -15,14 +15,6 @@
 #include <QToolButton>
 
 namespace {
-QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
-{
-    QFile file(dir.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-    return file.fileName();
-}
-
 QStringList validMessages()
 {
     QStringList messages{"Start Convertion"};
@@ -74,7 +66,6 @@ private slots:
     void initTestCase();
     void cleanup();
 
-    void settings();
     void conversion_data();
     void conversion();
     void incompleteChoices();
@@ -95,22 +86,6 @@ void TestConverterUtilityFrame::initTestCase()
 void TestConverterUtilityFrame::cleanup()
 {
     qDeleteAll(QApplication::topLevelWidgets());
-}
-
-void TestConverterUtilityFrame::settings()
-{
-    const Varnis::TestConverterConfig config;
-    QString caption;
-    QString filter;
-    QString key;
-    config.getInputFileSettings(caption, filter, key);
-    QCOMPARE(caption, QStringLiteral("Select test input file"));
-    QCOMPARE(filter, QStringLiteral("Text files (*.txt)"));
-    QCOMPARE(key, QStringLiteral("Test"));
-    config.getOutputDirectorySettings(caption, key);
-    QCOMPARE(caption, QStringLiteral("Select test output directory"));
-    QCOMPARE(key, QStringLiteral("Test"));
-    QVERIFY(!config.getPathProvider());
 }
 
 void TestConverterUtilityFrame::conversion_data()
@@ -134,9 +109,6 @@ void TestConverterUtilityFrame::conversion()
     const QString input = name.isEmpty() ? dir.filePath("missing.txt") : writeFile(dir, name, content);
     TestConverterUtility utility(nullptr);
     Varnis::FileConverterDialog* frame = utility.dialog();
-    QCOMPARE(frame->windowTitle(), QStringLiteral("TestConverter"));
-    QCOMPARE(frame->findChild<QLabel*>("description")->text(),
-             QStringLiteral("This is the description of the converter."));
     utility.run();
     QVERIFY(frame->isVisible());
     frame->setInputFile(input);

@@ -1,7 +1,6 @@
 #include "TestFlipWidget.h"
 
 #include <FlipWidget.h>
-#include <LayoutVisualizationFilter.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>
@@ -25,8 +24,6 @@ class FlipWidgetTest : public QObject
 
 private slots:
     void cleanup();
-    void names_data();
-    void names();
     void flipButtonsTurnAndKeepState();
     void flipPaintsTurningPage();
 };
@@ -34,31 +31,6 @@ private slots:
 void FlipWidgetTest::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void FlipWidgetTest::names_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* name, const char* text) { QTest::newRow(name) << name << text; };
-    row("label1", "Page1");
-    row("flip1", "Flip");
-    row("label2", "Page2");
-    row("flip2", "Flip");
-}
-
-void FlipWidgetTest::names()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    TestFlipWidget dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestFlipWidget"));
-    QWidget* widget = dialog.findChild<QWidget*>(name);
-    QVERIFY(widget);
-    QCOMPARE(widget->property("text").toString(), text);
-    QVERIFY(dialog.findChild<QSlider*>(QStringLiteral("horizontalSlider")));
-    QVERIFY(dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox")));
-    QVERIFY(dialog.findChild<LayoutVisualizationFilter*>());
 }
 
 void FlipWidgetTest::flipButtonsTurnAndKeepState()

@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "ImageFiles.h"
 #include "TestCompareIcons.h"
 #include "TestComposePixmap.h"
@@ -13,7 +14,6 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -21,15 +21,6 @@
 #include <QTest>
 
 namespace {
-template<typename T>
-T* child(QWidget* dialog, const QString& name)
-{
-    T* found = dialog->findChild<T*>(name);
-    if (!found)
-        qFatal("no %s", qPrintable(name));
-    return found;
-}
-
 QImage imageOf(const QLabel* label)
 {
     return label->pixmap() ? label->pixmap()->toImage().convertToFormat(QImage::Format_ARGB32) : QImage();
@@ -41,14 +32,6 @@ QString writeImage(const QTemporaryDir& dir, const QString& name, const QSize& s
     image.fill(colour);
     image.save(dir.filePath(name));
     return dir.filePath(name);
-}
-
-QString writeFile(const QTemporaryDir& dir, const QString& name, const QByteArray& content)
-{
-    QFile file(dir.filePath(name));
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-    return file.fileName();
 }
 
 // The compose form's connection by name to a missing slot warns while the dialog is built.
@@ -129,9 +112,6 @@ class TestImageDialogs : public QObject
 private slots:
     void cleanup();
 
-    void forms_data();
-    void forms();
-
     void composeConnections();
     void composeCheckBoxes();
     void composeOptionsAndTruncatedFactor_data();
@@ -154,95 +134,6 @@ private slots:
 void TestImageDialogs::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestImageDialogs::forms_data()
-{
-    QTest::addColumn<QString>("dialog");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    const auto row = [](const char* dialog, const char* name, const char* className, const char* text) {
-        QTest::addRow("%s %s", dialog, name) << dialog << name << className << text;
-    };
-    row("TestComposePixmap", "TestComposePixmap", "TestComposePixmap", "TestComposePixmapView");
-    row("TestComposePixmap", "label_2", "QLabel", "Compose Pixmap");
-    row("TestComposePixmap", "chkUseBaseImage", "QCheckBox", "Use base image");
-    row("TestComposePixmap", "chkUseOverlayImage", "QCheckBox", "Use overlay image");
-    row("TestComposePixmap", "chkUseSecondOverlayImage", "QCheckBox", "Use second overlay image");
-    row("TestComposePixmap", "label", "QLabel", "Result");
-    row("TestComposePixmap", "label_6", "QLabel", "Pixmap Manipulations");
-    row("TestComposePixmap", "label_3", "QLabel", "In");
-    row("TestComposePixmap", "label_5", "QLabel", "Out");
-    row("TestComposePixmap", "loadButton", "QPushButton", "Load Image ...");
-    row("TestComposePixmap", "saveButton", "QPushButton", "Save Out Image ...");
-    row("TestComposePixmap", "label_4", "QLabel", "Options");
-    row("TestComposePixmap", "noOption", "QRadioButton", "Original");
-    row("TestComposePixmap", "disbledOption", "QRadioButton", "Disabled");
-    row("TestComposePixmap", "disabled2Option", "QRadioButton", "Disabled Transparent");
-    row("TestComposePixmap", "adjustBrightness", "QRadioButton", "Adjust Brightness");
-    row("TestComposePixmap", "vnLabel", "VNLabel", "Factor");
-    row("TestComposePixmap", "factorBox", "VNDoubleSpinBox", "");
-    row("TestCompareIcons", "TestCompareIcons", "TestCompareIcons", "TestComposePixmapView");
-    row("TestCompareIcons", "loadPngButton", "QPushButton", "Load &PNG...");
-    row("TestCompareIcons", "loadSvgButton", "QPushButton", "Load &SVG...");
-    row("TestCompareIcons", "exportButton", "QPushButton", "&Export...");
-    row("TestCompareIcons", "label", "QLabel", "Compare icons");
-    row("TestCompareIcons", "label_7", "QLabel", "SVG 200%");
-    row("TestCompareIcons", "label_3", "QLabel", "SVG 100%");
-    row("TestCompareIcons", "vnLabel_2", "VNLabel", "PNG 100%");
-    row("TestCompareIcons", "label_8", "QLabel", "Difference @100%");
-    row("TestCompareIcons", "png100", "VNLabel", "");
-    row("TestCompareIcons", "svg100", "VNLabel", "");
-    row("TestCompareIcons", "svg200", "VNLabel", "");
-    row("TestCompareIcons", "difference", "VNLabel", "");
-    row("TestCompareIcons", "showFileName", "QLineEdit", "");
-    row("TestCompareIcons", "vnLabel", "VNLabel", "SVG Size:");
-    row("TestCompareIcons", "svgWidth", "QSpinBox", "");
-    row("TestCompareIcons", "label_4", "QLabel", "x");
-    row("TestCompareIcons", "svgHeight", "QSpinBox", "");
-    row("TestCompareIcons", "label_5", "QLabel", "px");
-    row("TestSVG", "TestSVG", "TestSVG", "TestSVG");
-    row("TestSVG", "label", "QLabel", "SVG Source");
-    row("TestSVG", "m_filePath", "VNLineEdit", ":/Icons/Blank/Sketches/embed_chevron_help.svg");
-    row("TestSVG", "openFile", "QToolButton", "...");
-    row("TestSVG", "m_svgSource", "QPlainTextEdit", "");
-    row("TestSVG", "m_svgModifiedSource", "QPlainTextEdit", "");
-    row("TestSVG", "label_4", "QLabel", "Nr.");
-    row("TestSVG", "label_5", "QLabel", "Type");
-    row("TestSVG", "label_3", "QLabel", "Current");
-    row("TestSVG", "label_2", "QLabel", "Replace");
-    row("TestSVG", "vnLabel_2", "VNLabel", "Width");
-    row("TestSVG", "vnLabel_3", "VNLabel", "Height");
-    row("TestSVG", "m_width", "QSpinBox", "");
-    row("TestSVG", "m_height", "QSpinBox", "");
-    row("TestSVG", "m_defWidth", "VNLabel", "160 px");
-    row("TestSVG", "m_defHeight", "VNLabel", "120 px");
-    row("TestSVG", "updateBtn", "VNPushButton", "Update");
-    row("TestSVG", "m_image", "QLabel", "");
-}
-
-void TestImageDialogs::forms()
-{
-    QFETCH(QString, dialog);
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    std::unique_ptr<QDialog> window;
-    if (dialog == "TestComposePixmap") {
-        expectComposeConnectWarnings();
-        window = std::make_unique<TestComposePixmap>(nullptr);
-    } else if (dialog == "TestCompareIcons") {
-        window = std::make_unique<TestCompareIcons>(nullptr);
-    } else {
-        window = std::make_unique<TestSVG>(nullptr);
-    }
-    QObject* widget = name == dialog ? window.get() : window->findChild<QWidget*>(name);
-    QVERIFY(widget);
-    QCOMPARE(QString(widget->metaObject()->className()), className);
-    const QByteArray property = widget == window.get() ? "windowTitle" : "text";
-    if (!text.isEmpty() || className.endsWith("Label") || className == "QLineEdit")
-        QCOMPARE(widget->property(property).toString(), text);
 }
 
 // Two connections each for the first two check boxes (by name and explicitly); the explicit one of

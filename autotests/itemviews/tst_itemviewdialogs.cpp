@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "ItemViewPayloads.h"
 #include "TestDendrogramWidget.h"
 #include "TestDragAndDrop.h"
@@ -6,7 +7,6 @@
 #include "TestTreeWidget.h"
 #include "TestVNTableWidget.h"
 #include "TestVNTreeView.h"
-#include "TranslationFileTool.h"
 
 #include <VNCustomHeaderView.h>
 #include <VNDendrogramWidget.h>
@@ -21,55 +21,16 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDoubleSpinBox>
-#include <QGroupBox>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMimeData>
 #include <QPointer>
 #include <QRadioButton>
 #include <QStandardItemModel>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 #include <QWindow>
 
 namespace {
-template<typename T>
-T* child(QWidget* dialog, const QString& name)
-{
-    T* found = dialog->findChild<T*>(name);
-    if (!found)
-        qFatal("no %s", qPrintable(name));
-    return found;
-}
-
-void press(QWidget* dialog, const QString& name)
-{
-    child<QAbstractButton>(dialog, name)->click();
-}
-
-// Enter, move and drop at the position of the view's viewport; returns whether the drop was taken.
-bool dropOn(QAbstractItemView* view, QMimeData* data, QPoint position)
-{
-    QDragEnterEvent enter(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &enter);
-    QDragMoveEvent move(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &move);
-    QDropEvent drop(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    drop.setAccepted(false);
-    QApplication::sendEvent(view->viewport(), &drop);
-    return drop.isAccepted();
-}
-
-Qt::DropAction moveAction(QAbstractItemView* view, QMimeData* data, QPoint position)
-{
-    QDragEnterEvent enter(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &enter);
-    QDragMoveEvent move(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &move);
-    return move.isAccepted() ? move.dropAction() : Qt::IgnoreAction;
-}
-
 QMimeData* mime(const QString& format, const QByteArray& payload)
 {
     auto* data = new QMimeData;
@@ -99,10 +60,6 @@ class TestItemViewDialogs : public QObject
 
 private slots:
     void cleanup();
-
-    void forms_data();
-    void forms();
-    void mockLocaleLeavesNoEnglish();
 
     void tableSectionsNumberedAndCoded();
     void tableRemoveOnEmptyChangesNothing();
@@ -137,157 +94,6 @@ private:
 void TestItemViewDialogs::cleanup()
 {
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestItemViewDialogs::forms_data()
-{
-    QTest::addColumn<QString>("dialog");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("className");
-    QTest::addColumn<QString>("text");
-    auto row = [](const char* dialog, const char* name, const char* className, const char* text) {
-        QTest::addRow("%s/%s", dialog, name) << dialog << name << className << text;
-    };
-    row("table", "m_addColumnPB", "QPushButton", "Add Column");
-    row("table", "m_removeColumnPB", "QPushButton", "Remove Column");
-    row("table", "m_addRowPB", "QPushButton", "Add Row");
-    row("table", "m_removeRowPB", "QPushButton", "Remove Row");
-    row("table", "m_colorCodingCB", "QCheckBox", "ColorCoding Header");
-    row("table", "m_htmlHeaderCB", "QCheckBox", "HTML Header");
-    row("table", "vnLabel", "VNLabel", "VNTableView");
-    row("table", "vnLabel_3", "VNLabel", "VNTableWidget");
-    row("table", "m_vnTableView", "VNTableView", "");
-    row("table", "m_vnTableWidget", "VNTableWidget", "");
-    row("table", "vnSeparator", "VNSeparator", "");
-    row("treeview", "label", "QLabel", "VNTreeView");
-    row("treeview", "m_addItemButton", "QPushButton", "Add Item");
-    row("dendrogram", "m_addColumnColumnToModel", "QPushButton", "");
-    row("dendrogram", "m_addItemColumnToModel", "QPushButton", "");
-    row("dendrogram", "groupBox_addToModel", "QGroupBox", "Add to Model");
-    row("dendrogram", "groupBox", "QGroupBox", "Manipulate VNDendrogramWidget");
-    row("dendrogram", "groupBox_manipulateWidget", "QGroupBox", "Default");
-    row("dendrogram", "iTCHeader", "QLabel", "Add new \"item to column\"-connection");
-    row("dendrogram", "cTCHeader", "QLabel", "Add new \"column to column\"-connection");
-    row("dendrogram", "ItemLabel", "QLabel", "Item");
-    row("dendrogram", "columnLabel", "QLabel", "Column");
-    row("dendrogram", "startColLabel", "QLabel", "StartColumn");
-    row("dendrogram", "endColLabel", "QLabel", "EndColumn");
-    row("dendrogram", "m_itemDoubleSpinBox", "VNDoubleSpinBox", "");
-    row("dendrogram", "m_startColumnDoubleSpinBox", "VNDoubleSpinBox", "");
-    row("dendrogram", "m_addItem", "QPushButton", "Add Item");
-    row("dendrogram", "m_deleteLastItem", "QPushButton", "Delete last item");
-    row("dendrogram", "m_deleteMarkedItem", "QPushButton", "Delete marked item");
-    row("dendrogram", "m_addColumn", "QPushButton", "Add column");
-    row("dendrogram", "m_deleteLastColumn", "QPushButton", "Delete last column");
-    row("dendrogram", "m_backToDefault", "QPushButton", "Back to default");
-    row("dnd", "label", "QLabel", "Initiator (Drag only)");
-    row("dnd", "label_2", "QLabel", "Target (Drop only)");
-    row("dnd", "m_initiatorTree", "VNDragTreeWidget", "");
-    row("dnd", "m_targetTree", "VNDragTreeWidget", "");
-    row("dnd", "m_addItemButton", "QPushButton", "Add Item");
-    row("joins", "m_enabled", "QCheckBox", "Enabled");
-    row("joins", "treeWidget", "VNDragTreeWidget", "");
-    row("delegate", "m_tree", "VNDragTreeWidget", "");
-    row("treewidget", "vnLabel", "VNLabel", "QTreeWidget");
-    row("treewidget", "vnLabel_2", "VNLabel", "VNDragTreeWidget (no header)");
-    row("treewidget", "vnLabel_3", "VNLabel", "Dynamic Properties");
-    row("treewidget", "vnLabel_4", "VNLabel", "QTreeWidget + QFrame + VNListToolBar");
-    row("treewidget", "vnLabel_5", "VNLabel", "VNDragTreeWidget + QFrame");
-    row("treewidget", "vnLabel_6", "VNLabel", "VNDragTreeWidget (no header) + QFrame");
-    row("treewidget", "m_noPropertyRB", "QRadioButton", "None");
-    row("treewidget", "m_fullRightSideRB", "QRadioButton", "fullRightSide");
-    row("treewidget", "m_fullLeftSideRB", "QRadioButton", "fullLeftSide");
-    row("treewidget", "m_fullWidthRB", "QRadioButton", "fullWidth");
-    row("treewidget", "m_qTreeWidget", "QTreeWidget", "");
-    row("treewidget", "m_qTreeWidgetWithFrame", "QTreeWidget", "");
-    row("treewidget", "m_vnDragTreeWidget", "VNDragTreeWidget", "");
-    row("treewidget", "m_vnDragTreeWidgetWithFrame", "VNDragTreeWidget", "");
-    row("treewidget", "m_vnDragTreeWidgetWithFrameNoHeader", "VNDragTreeWidget", "");
-    row("treewidget", "m_toolBar", "VNListToolBar", "");
-    row("treewidget", "m_addCtrlBtn_2", "VNButton", "");
-    row("treewidget", "m_deleteCtrlTB_2", "VNButton", "");
-    row("treewidget", "vnSeparator_2", "VNSeparator", "");
-    row("treewidget", "m_checkCtrlTB_2", "QToolButton", "Check");
-    row("treewidget", "m_frame2", "QFrame", "");
-}
-
-namespace {
-QDialog* createDialog(const QString& key)
-{
-    if (key == QLatin1String("table"))
-        return new TestVNTableWidget(nullptr);
-    if (key == QLatin1String("treeview"))
-        return new TestVNTreeView(nullptr);
-    if (key == QLatin1String("dendrogram"))
-        return new TestDendrogramWidget(nullptr);
-    if (key == QLatin1String("dnd"))
-        return new TestDragAndDrop(nullptr);
-    if (key == QLatin1String("joins"))
-        return new TestJoinsTable(nullptr);
-    if (key == QLatin1String("delegate"))
-        return new TestTreeItemDelegate(nullptr);
-    return new TestTreeWidget(nullptr);
-}
-
-QString textOf(QObject* object)
-{
-    for (const char* property : {"text", "title"}) {
-        const QVariant value = object->property(property);
-        if (value.isValid())
-            return value.toString();
-    }
-    return {};
-}
-} // namespace
-
-void TestItemViewDialogs::forms()
-{
-    QFETCH(QString, dialog);
-    QFETCH(QString, name);
-    QFETCH(QString, className);
-    QFETCH(QString, text);
-    std::unique_ptr<QDialog> window(createDialog(dialog));
-    QWidget* widget = window->findChild<QWidget*>(name);
-    QVERIFY2(widget, qPrintable(name));
-    QCOMPARE(QString::fromLatin1(widget->metaObject()->className()), className);
-    if (!text.isEmpty())
-        QCOMPARE(textOf(widget), text);
-}
-
-// Every text of the dialogs goes through translation: with the mock translation loaded, no text
-// that has letters may read as before.
-void TestItemViewDialogs::mockLocaleLeavesNoEnglish()
-{
-    if (!TWC_HAS_MOCK_TRANSLATION)
-        QSKIP("built without lupdate and lrelease");
-    const TranslationFileTool tool;
-    for (const char* key : {"table", "treeview", "dendrogram", "dnd", "joins", "delegate", "treewidget"}) {
-        std::unique_ptr<QDialog> english(createDialog(QString::fromLatin1(key)));
-        QTranslator translator;
-        QVERIFY(translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")));
-        QCoreApplication::installTranslator(&translator);
-        std::unique_ptr<QDialog> mocked(createDialog(QString::fromLatin1(key)));
-        QCoreApplication::removeTranslator(&translator);
-        QCOMPARE(mocked->windowTitle() == english->windowTitle(), false);
-        const QList<QWidget*> widgets = english->findChildren<QWidget*>();
-        for (QWidget* widget : widgets) {
-            const QString before = textOf(widget);
-            if (widget->objectName().isEmpty() || !before.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))))
-                continue;
-            auto* other = mocked->findChild<QWidget*>(widget->objectName());
-            QCOMPARE(textOf(other), tool.mockSwedish(before));
-        }
-        for (auto* tree : english->findChildren<QTreeWidget*>()) {
-            auto* other = mocked->findChild<QTreeWidget*>(tree->objectName());
-            for (int column = 0; column < tree->columnCount(); ++column) {
-                const QString header = tree->headerItem()->text(column);
-                if (header.contains(QRegularExpression(QStringLiteral("[A-Za-z]"))))
-                    QCOMPARE(other->headerItem()->text(column), tool.mockSwedish(header));
-            }
-            if (tree->topLevelItemCount() > 0 && !tree->topLevelItem(0)->text(2).isEmpty())
-                QVERIFY(other->topLevelItem(0)->text(2) != tree->topLevelItem(0)->text(2));
-        }
-    }
 }
 
 void TestItemViewDialogs::tableSectionsNumberedAndCoded()
@@ -331,9 +137,6 @@ void TestItemViewDialogs::treeViewNumbersAndDropCopiesFirstText()
     QStandardItemModel* source = dialog.sourceModel();
     QCOMPARE(source->item(0)->text(), QStringLiteral("Item 0"));
     QCOMPARE(source->item(1)->text(), QStringLiteral("Item 1"));
-    auto* layout = child<QHBoxLayout>(&dialog, "m_horizontalLayout"); // the source on the left
-    QCOMPARE(layout->itemAt(0)->widget(), dialog.sourceView());
-    QCOMPARE(layout->itemAt(1)->widget(), dialog.targetView());
     QPixmap pixmap;
     std::unique_ptr<QMimeData> data(
         dialog.sourceView()->getDragAndDropManager()->prepareDrag({source->index(1, 0), source->index(0, 0)}, pixmap));
@@ -445,7 +248,7 @@ void TestItemViewDialogs::mouseDragDrawsDendrogramLink()
     if (QGuiApplication::platformName() == QLatin1String("offscreen"))
         QSKIP("the offscreen platform runs no drags");
     TestDendrogramWidget dialog(nullptr);
-    press(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_addColumn");
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     Varnis::VNDendrogramWidget* dendrogram = dialog.dendrogram();
@@ -463,19 +266,19 @@ void TestItemViewDialogs::dendrogramColumnsAndDefaults()
     QCOMPARE(dialog.headerLabels(), (QStringList{"Parts", "AO-10", ""}));
     QCOMPARE(dendrogram->topLevelItem(0)->text(0), QStringLiteral("Component 1"));
     QVERIFY(dendrogram->topLevelItem(0)->flags() & Qt::ItemIsDragEnabled);
-    press(&dialog, "m_addColumn");
-    press(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_addColumn");
     QCOMPARE(dialog.headerLabels(), (QStringList{"Parts", "AO-10", "AO-20", "AO-30", ""}));
     QCOMPARE(dendrogram->header()->sectionSize(3), 40);
     QCOMPARE(dendrogram->headerItem()->data(2, VNItemDataRoles::ReadOnlyRole).toBool(), true);
-    press(&dialog, "m_addItem");
+    clickButton(&dialog, "m_addItem");
     QCOMPARE(dendrogram->topLevelItem(1)->text(0), QStringLiteral("Component 2"));
-    press(&dialog, "m_backToDefault");
-    press(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_backToDefault");
+    clickButton(&dialog, "m_addColumn");
     QCOMPARE(dialog.headerLabels().at(2), QStringLiteral("AO-20"));
     QCOMPARE(dendrogram->topLevelItemCount(), 1);
-    press(&dialog, "m_deleteLastItem");
-    press(&dialog, "m_deleteLastItem");
+    clickButton(&dialog, "m_deleteLastItem");
+    clickButton(&dialog, "m_deleteLastItem");
     QCOMPARE(dendrogram->topLevelItemCount(), 0);
 }
 
@@ -484,17 +287,17 @@ void TestItemViewDialogs::dendrogramButtonsAcceptOnePastLast()
     TestDendrogramWidget dialog(nullptr);
     child<QDoubleSpinBox>(&dialog, "m_itemDoubleSpinBox")->setValue(1);   // == row count
     child<QDoubleSpinBox>(&dialog, "m_columnDoubleSpinBox")->setValue(3); // == column count
-    press(&dialog, "m_addColumnColumnToModel");
+    clickButton(&dialog, "m_addColumnColumnToModel");
     QCOMPARE(dialog.itemToColumnLinks(), (Links{{3, 1}}));
     child<QDoubleSpinBox>(&dialog, "m_columnDoubleSpinBox")->setValue(4);
-    press(&dialog, "m_addColumnColumnToModel");
+    clickButton(&dialog, "m_addColumnColumnToModel");
     QCOMPARE(dialog.itemToColumnLinks().size(), size_t(1));
     child<QDoubleSpinBox>(&dialog, "m_startColumnDoubleSpinBox")->setValue(1);
     child<QDoubleSpinBox>(&dialog, "m_endColumnDoubleSpinBox")->setValue(3);
-    press(&dialog, "m_addItemColumnToModel");
+    clickButton(&dialog, "m_addItemColumnToModel");
     QCOMPARE(dialog.columnToColumnLinks(), (Links{{1, 3}}));
     QCOMPARE(dialog.dendrogram()->dendrogramModel()->columnToColumn, (Links{{1, 3}}));
-    press(&dialog, "m_backToDefault");
+    clickButton(&dialog, "m_backToDefault");
     QVERIFY(dialog.dendrogram()->dendrogramModel()->itemToColumn.empty());
 }
 
@@ -533,19 +336,19 @@ void TestItemViewDialogs::dendrogramDrops()
     QFETCH(Links, columnLinks);
     QFETCH(bool, accepted);
     TestDendrogramWidget dialog(nullptr);
-    press(&dialog, "m_addItem");
-    press(&dialog, "m_addColumn");
-    press(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_addItem");
+    clickButton(&dialog, "m_addColumn");
+    clickButton(&dialog, "m_addColumn");
     auto setSpin = [&dialog](const char* name, int value) { child<QDoubleSpinBox>(&dialog, name)->setValue(value); };
     for (const auto& link : presetItemLinks) {
         setSpin("m_columnDoubleSpinBox", link.first);
         setSpin("m_itemDoubleSpinBox", link.second);
-        press(&dialog, "m_addColumnColumnToModel");
+        clickButton(&dialog, "m_addColumnColumnToModel");
     }
     for (const auto& link : presetColumnLinks) {
         setSpin("m_startColumnDoubleSpinBox", link.first);
         setSpin("m_endColumnDoubleSpinBox", link.second);
-        press(&dialog, "m_addItemColumnToModel");
+        clickButton(&dialog, "m_addItemColumnToModel");
     }
     dialog.resize(1000, 500);
     dialog.show();
@@ -568,10 +371,6 @@ void TestItemViewDialogs::joinsRowsAndRadioPaths()
 {
     TestJoinsTable dialog(nullptr);
     VNDragTreeWidget* table = dialog.table();
-    QCOMPARE(table->columnCount(), 6);
-    const QStringList labels{"Use", "Order", "Name", "Path 1", "Path 2", "Path 3"};
-    for (int column = 0; column < 6; ++column)
-        QCOMPARE(table->headerItem()->text(column), labels.at(column));
     QCOMPARE(table->topLevelItemCount(), 10);
     for (int i = 1; i <= 10; ++i) {
         QTreeWidgetItem* item = table->topLevelItem(i - 1);
@@ -668,8 +467,6 @@ void TestItemViewDialogs::treeItemDelegateRows()
 {
     TestTreeItemDelegate dialog(nullptr);
     VNDragTreeWidget* tree = dialog.tree();
-    QCOMPARE(tree->headerItem()->text(0), QStringLiteral("Col 0 "));
-    QCOMPARE(tree->headerItem()->text(1), QStringLiteral("Column 1"));
     QTreeWidgetItem* parent1 = tree->topLevelItem(0);
     QVERIFY(parent1->isExpanded());
     QVERIFY(!(parent1->flags() & Qt::ItemIsSelectable));

@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include <IconToggleDelegate.h>
 #include <VNCustomHeaderView.h>
 #include <VNDendrogramWidget.h>
@@ -6,7 +7,6 @@
 #include <VNItemDataRoles.h>
 #include <VNItemDelegate.h>
 #include <VNStatusPalette.h>
-#include <VNTableWidget.h>
 #include <VNTreeView.h>
 
 #include <QApplication>
@@ -18,29 +18,6 @@
 namespace {
 const QColor userEditBlue = VNStatusPalette::markColor(VNWidgetStatus::userEdit);
 const QColor needInputRed = VNStatusPalette::markColor(VNWidgetStatus::needInput);
-
-// A drag of the data over the viewport: enter, move, and optionally drop, as Qt delivers them.
-struct DragResult
-{
-    bool moveAccepted = false;
-    bool dropAccepted = false;
-};
-DragResult dragOver(QAbstractItemView* view, QMimeData* data, QPoint position, bool drop)
-{
-    DragResult result;
-    QDragEnterEvent enter(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &enter);
-    QDragMoveEvent move(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &move);
-    result.moveAccepted = move.isAccepted();
-    if (drop) {
-        QDropEvent dropEvent(position, Qt::CopyAction | Qt::MoveAction, data, Qt::LeftButton, Qt::NoModifier);
-        dropEvent.setAccepted(false);
-        QApplication::sendEvent(view->viewport(), &dropEvent);
-        result.dropAccepted = dropEvent.isAccepted();
-    }
-    return result;
-}
 
 int countPixels(const QImage& image, const QRect& area, const QColor& color)
 {
@@ -65,10 +42,6 @@ private slots:
     void headerSelection();
     void headerCheckBoxFollowsRows();
     void dfsIndexesFollowDepthFirstOrder();
-    void dropsOnlyAcceptedFormats_data();
-    void dropsOnlyAcceptedFormats();
-    void dragOnlyTreeRefusesDrops();
-    void sourceViewRefusesForeignDrops();
     void receiverDecidesDropAction();
     void moveOnDropReordersRows();
     void prepareDragFillsMimeData();
@@ -215,56 +188,6 @@ void TestItemViewToolkit::dfsIndexesFollowDepthFirstOrder()
     QCOMPARE(tree.itemAtDFSIndex(3), b);
 }
 
-void TestItemViewToolkit::dropsOnlyAcceptedFormats_data()
-{
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<bool>("accepted");
-    QTest::newRow("registered") << "myMimeData" << true;
-    QTest::newRow("other") << "text/plain" << false;
-}
-
-void TestItemViewToolkit::dropsOnlyAcceptedFormats()
-{
-    QFETCH(QString, format);
-    QFETCH(bool, accepted);
-    VNTreeView view;
-    QStandardItemModel model;
-    view.setModel(&model);
-    view.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    view.resize(200, 200);
-    QSignalSpy drops(view.getDragAndDropManager(), &VNDragAndDropManager::sigDropEvent);
-    QMimeData data;
-    data.setData(format, "x");
-    const DragResult result = dragOver(&view, &data, QPoint(20, 20), true);
-    QCOMPARE(result.moveAccepted, accepted);
-    QCOMPARE(drops.count(), accepted ? 1 : 0);
-}
-
-void TestItemViewToolkit::dragOnlyTreeRefusesDrops()
-{
-    VNDragTreeWidget tree;
-    tree.setDragEnabled(true);
-    tree.setDragDropMode(QAbstractItemView::DragOnly);
-    tree.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    QSignalSpy drops(tree.getDragAndDropManager(), &VNDragAndDropManager::sigDropEvent);
-    QMimeData data;
-    data.setData(QStringLiteral("myMimeData"), "x");
-    QVERIFY(!dragOver(&tree, &data, QPoint(10, 10), true).dropAccepted);
-    QCOMPARE(drops.count(), 0);
-}
-
-void TestItemViewToolkit::sourceViewRefusesForeignDrops()
-{
-    VNTreeView view;
-    QStandardItemModel model;
-    view.setModel(&model);
-    view.getDragAndDropManager()->addAcceptedFormat(QStringLiteral("myMimeData"));
-    view.getDragAndDropManager()->m_acceptExternalDrops = false;
-    QMimeData data;
-    data.setData(QStringLiteral("myMimeData"), "x");
-    QVERIFY(!dragOver(&view, &data, QPoint(10, 10), true).dropAccepted);
-}
-
 void TestItemViewToolkit::receiverDecidesDropAction()
 {
     VNDragTreeWidget tree;
@@ -281,9 +204,9 @@ void TestItemViewToolkit::receiverDecidesDropAction()
     QMimeData data;
     data.setData(QStringLiteral("f"), "x");
     const QPoint onRow = tree.visualItemRect(tree.topLevelItem(0)).center();
-    QVERIFY(dragOver(&tree, &data, onRow, true).dropAccepted);
+    QVERIFY(dropOn(&tree, &data, onRow));
     QCOMPARE(targets.first(), tree.topLevelItem(0));
-    QVERIFY(!dragOver(&tree, &data, QPoint(10, 150), true).dropAccepted);
+    QVERIFY(!dropOn(&tree, &data, QPoint(10, 150)));
     QCOMPARE(targets.last(), nullptr);
 }
 
@@ -305,7 +228,7 @@ void TestItemViewToolkit::moveOnDropReordersRows()
     QPixmap pixmap;
     std::unique_ptr<QMimeData> data(tree.prepareDragOfSelection(pixmap));
     QVERIFY(data);
-    dragOver(&tree, data.get(), tree.visualItemRect(tree.topLevelItem(0)).center(), true);
+    dropOn(&tree, data.get(), tree.visualItemRect(tree.topLevelItem(0)).center());
     tree.finishDrag();
     QCOMPARE(tree.topLevelItem(0)->text(0), QStringLiteral("c"));
     QCOMPARE(tree.topLevelItem(1)->text(0), QStringLiteral("a"));

@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "TestMasterDetailTree.h"
 
 #include <VNContainerListControl.h>
@@ -6,7 +7,6 @@
 #include <VNDragTreeWidget.h>
 #include <VNStackControllerWidget.h>
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QMenu>
@@ -15,20 +15,6 @@
 #include <QVBoxLayout>
 
 namespace {
-template<typename T>
-T* child(QWidget* dialog, const char* name)
-{
-    T* found = dialog->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no %s", name);
-    return found;
-}
-
-void press(QWidget* dialog, const char* name)
-{
-    child<QAbstractButton>(dialog, name)->click();
-}
-
 // The page texts in depth-first order, read through the stack's depth-first lookup.
 QStringList dfsTexts(VNControlledStackWidget* stack)
 {
@@ -65,8 +51,6 @@ class TestMasterDetail : public QObject
     Q_OBJECT
 
 private slots:
-    void form_data();
-    void form();
     void initialContents();
     void numberingRestartsAfterDeleteAll();
     void subSubItemOnEmptyStackCreatesUpperLevels();
@@ -84,48 +68,10 @@ private slots:
     void embeddedAndDeletedWithParent();
 };
 
-void TestMasterDetail::form_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    const char* rows[][2] = {{"m_initialSetup", "Initial Setup"},
-                             {"m_symmetrySetup", "Symmetry Setup"},
-                             {"m_deleteAllBtn", "Delete All Items"},
-                             {"m_checkableStateCB", "Checkable Items"},
-                             {"m_symBtn", "Make Symmetrical"},
-                             {"m_addTopBtn", "Add Top Level Item"},
-                             {"m_addSubBtn", "Add SubItem"},
-                             {"m_addSubSubBtn", "Add Sub SubItem"},
-                             {"m_iconCB", "Items with additional Icons"},
-                             {"m_leftIconInIndentationCB", "Paint in Indentation"},
-                             {"m_includeTopLevelItemsCB", "Include TopLevelItems"},
-                             {"m_colorBoxCB", "Items with ColorBox"},
-                             {"m_showGroupHeader", "Show TopLevelItems as GroupHeader"},
-                             {"m_multiselectionEnabled", "Multiselection"},
-                             {"m_useHighlighting", "Use Highlighting"},
-                             {"m_selectBtn", "Set Selection"}};
-    for (const auto& row : rows)
-        QTest::newRow(row[0]) << row[0] << row[1];
-}
-
-void TestMasterDetail::form()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, text);
-    TestMasterDetailTree dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestNavigationTree"));
-    auto* button = dialog.findChild<QAbstractButton*>(name);
-    QVERIFY(button);
-    QCOMPARE(button->text(), text);
-    QCOMPARE(child<QCheckBox>(&dialog, "m_multiselectionEnabled")->isChecked(), true);
-    QCOMPARE(child<QCheckBox>(&dialog, "m_leftIconInIndentationCB")->isEnabled(), false);
-    QCOMPARE(child<QComboBox>(&dialog, "m_alignmentCB")->currentText(), QStringLiteral("Left"));
-    QCOMPARE(controllerTree(dialog)->headerItem()->text(0), QStringLiteral("Controls"));
-}
-
 void TestMasterDetail::initialContents()
 {
     TestMasterDetailTree dialog(nullptr);
+    QCOMPARE(child<QComboBox>(&dialog, "m_alignmentCB")->currentText(), QStringLiteral("Left"));
     VNControlledStackWidget* stack = dialog.stackWidget();
     QCOMPARE(dfsTexts(stack), initialTexts);
     QCOMPARE(stack->itemCount(), 3);
@@ -144,24 +90,24 @@ void TestMasterDetail::initialContents()
 void TestMasterDetail::numberingRestartsAfterDeleteAll()
 {
     TestMasterDetailTree dialog(nullptr);
-    press(&dialog, "m_deleteAllBtn");
+    clickButton(&dialog, "m_deleteAllBtn");
     QCOMPARE(dfsTexts(dialog.stackWidget()), QStringList());
     QCOMPARE(dialog.stackWidget()->count(), 0);
     QCOMPARE(child<QTreeWidget>(&dialog, "m_qtreeWidget")->topLevelItemCount(), 0);
-    press(&dialog, "m_addTopBtn");
-    press(&dialog, "m_addSubBtn");
-    press(&dialog, "m_addTopBtn");
-    press(&dialog, "m_addSubBtn");
+    clickButton(&dialog, "m_addTopBtn");
+    clickButton(&dialog, "m_addSubBtn");
+    clickButton(&dialog, "m_addTopBtn");
+    clickButton(&dialog, "m_addSubBtn");
     QCOMPARE(dfsTexts(dialog.stackWidget()), (QStringList{"Page 0", "Sub Page 0", "Page 1", "Sub Page 0"}));
-    press(&dialog, "m_initialSetup");
+    clickButton(&dialog, "m_initialSetup");
     QCOMPARE(dfsTexts(dialog.stackWidget()), initialTexts);
 }
 
 void TestMasterDetail::subSubItemOnEmptyStackCreatesUpperLevels()
 {
     TestMasterDetailTree dialog(nullptr);
-    press(&dialog, "m_deleteAllBtn");
-    press(&dialog, "m_addSubSubBtn");
+    clickButton(&dialog, "m_deleteAllBtn");
+    clickButton(&dialog, "m_addSubSubBtn");
     const QStringList expected{"Page 0", "Sub Page 0", "Sub Sub Page 0"};
     QCOMPARE(dfsTexts(dialog.stackWidget()), expected);
     QCOMPARE(mirroredTexts(child<QTreeWidget>(&dialog, "m_qtreeWidget")), expected);
@@ -176,12 +122,12 @@ void TestMasterDetail::checkableItemsOnlyForNewPages()
     child<QCheckBox>(&dialog, "m_checkableStateCB")->setChecked(true);
     QCOMPARE(stack->isCheckableItems(), VNControlledStackWidget::AllItem);
     QVERIFY(!stack->itemAt(0)->data(0, Qt::CheckStateRole).isValid());
-    press(&dialog, "m_addTopBtn");
+    clickButton(&dialog, "m_addTopBtn");
     QCOMPARE(stack->itemAt(3)->checkState(0), Qt::Checked);
     child<QCheckBox>(&dialog, "m_checkableStateCB")->setChecked(false);
     QCOMPARE(stack->isCheckableItems(), VNControlledStackWidget::NoItem);
     QCOMPARE(stack->itemAt(3)->checkState(0), Qt::Checked);
-    press(&dialog, "m_addTopBtn");
+    clickButton(&dialog, "m_addTopBtn");
     QVERIFY(!stack->itemAt(4)->data(0, Qt::CheckStateRole).isValid());
 }
 
@@ -213,7 +159,7 @@ void TestMasterDetail::symmetrySetupMarkers()
     QFETCH(QString, text);
     QFETCH(QVariant, marker);
     TestMasterDetailTree dialog(nullptr);
-    press(&dialog, "m_symmetrySetup");
+    clickButton(&dialog, "m_symmetrySetup");
     QVERIFY(!dialog.stackWidget()->itemAtDFSIndex(28));
     VNControlledStackItem* item = dialog.stackWidget()->itemAtDFSIndex(dfsIndex);
     QVERIFY(item);
@@ -239,7 +185,7 @@ void TestMasterDetail::makeSymmetrical()
     TestMasterDetailTree dialog(nullptr);
     for (int index : selected)
         dialog.stackWidget()->itemAtDFSIndex(index)->setSelected(true);
-    press(&dialog, "m_symBtn");
+    clickButton(&dialog, "m_symBtn");
     for (int i = 0; i < selected.size(); ++i)
         QCOMPARE(marker(dialog.stackWidget()->itemAtDFSIndex(selected.at(i))), QVariant(markers.at(i)));
     QVERIFY(!marker(dialog.stackWidget()->itemAtDFSIndex(0)).isValid());
@@ -251,7 +197,7 @@ void TestMasterDetail::selectionByDfsIndex()
     auto* mirror = child<VNDragTreeWidget>(&dialog, "m_dragTreeWdg");
     mirror->itemAtDFSIndex(3)->setSelected(true);
     mirror->itemAtDFSIndex(7)->setSelected(true);
-    press(&dialog, "m_selectBtn");
+    clickButton(&dialog, "m_selectBtn");
     QStringList selected;
     for (QTreeWidgetItem* item : controllerTree(dialog)->selectedItems())
         selected << item->text(0);
@@ -302,7 +248,7 @@ void TestMasterDetail::colourBoxes()
     QCOMPARE(box(0).value<QColor>(), QColor(255, 0, 0, 255));
     QCOMPARE(box(1).value<QColor>(), QColor(0, 0, 255, 255));
     QCOMPARE(box(3).value<QColor>(), QColor(0, 0, 255, 255));
-    press(&dialog, "m_addTopBtn");
+    clickButton(&dialog, "m_addTopBtn");
     QCOMPARE(box(9).value<QColor>(), QColor(0, 0, 255, 255)); // new pages get blue
     child<QCheckBox>(&dialog, "m_colorBoxCB")->setChecked(false);
     for (int i = 0; i < 10; ++i)
@@ -361,7 +307,7 @@ void TestMasterDetail::embeddedAndDeletedWithParent()
     QVERIFY(!dialog->isWindow());
     QVERIFY(dialog->isVisible());
     QPointer<QWidget> page = dialog->stackWidget()->itemAt(0)->page();
-    press(dialog, "m_symmetrySetup");
+    clickButton(dialog, "m_symmetrySetup");
     QVERIFY(!page); // cleared pages are deleted
     page = dialog->stackWidget()->itemAt(0)->page();
     delete parent;

@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "TestTreeDelegates.h"
 
 #include <VNDoubleSpinBox.h>
@@ -14,10 +15,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
@@ -26,15 +25,6 @@
 
 namespace {
 const int statusRole = VNItemDataRoles::StatusRole;
-
-template<typename T>
-T* child(QWidget* dialog, const QString& name)
-{
-    T* found = dialog->findChild<T*>(name);
-    if (!found)
-        qFatal("no %s", qPrintable(name));
-    return found;
-}
 
 VNDragTreeWidget* treeOf(QWidget* dialog)
 {
@@ -105,65 +95,9 @@ private slots:
         QCOMPARE(text, QStringLiteral("1250.50 mm"));
     }
 
-    void robotNames_data()
+    void headerAndRows()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("className");
-        QTest::addColumn<QString>("text");
-        const char* const boxes[][2] = {
-            {"disableItems", "Disable All Items"},
-            {"readOnlyItems", "All Items Read Only"},
-            {"m_showValueBackground", "Show Value Background"},
-            {"m_needInput", "Need Input"},
-            {"m_userEdited", "User Edited"},
-            {"m_compareDiffers", "Compare Differs"},
-            {"m_standardEnabled", "Standard Enabled"},
-            {"m_standardDeviate", "Deviate"},
-            {"m_standardLocked", "Locked"},
-            {"m_headerDifferentFromComparison", "Global Header Compare Differs"},
-            {"m_sigmaAvailable", "Sigma Available"},
-            {"m_sigmaOn", "Sigma Enabled"},
-            {"m_sigmaError", "Sigma Invalid"},
-            {"m_sigmaStandardChanged", "Sigma Standard Changed"},
-        };
-        for (const auto& box : boxes)
-            QTest::newRow(box[0]) << box[0] << "QCheckBox" << box[1];
-        QTest::newRow("label") << "label"
-                               << "QLabel"
-                               << "TreeWidget";
-        QTest::newRow("m_valueFiledWidth") << "m_valueFiledWidth"
-                                           << "QComboBox"
-                                           << "None|Short|Medium|Normal|Large";
-        QTest::newRow("treeWidget") << "treeWidget"
-                                    << "VNDragTreeWidget" << QString();
-    }
-    void robotNames()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, className);
-        QFETCH(QString, text);
-        QWidget* widget = child<QWidget>(m_dialog, name);
-        QVERIFY(widget->inherits(className.toLatin1()));
-        if (auto* box = qobject_cast<QAbstractButton*>(widget))
-            QCOMPARE(box->text(), text);
-        if (auto* label = qobject_cast<QLabel*>(widget))
-            QCOMPARE(label->text(), text);
-        if (auto* combo = qobject_cast<QComboBox*>(widget)) {
-            QStringList items;
-            for (int i = 0; i < combo->count(); ++i)
-                items << combo->itemText(i);
-            QCOMPARE(items.join('|'), text);
-        }
-    }
-
-    void formAndRows()
-    {
-        QCOMPARE(m_dialog->objectName(), QStringLiteral("TestTreeDelegatesClass"));
-        QCOMPARE(m_dialog->windowTitle(), QStringLiteral("TestTreeDelegates"));
-        QTreeWidgetItem* header = m_tree->headerItem();
-        QCOMPARE(header->text(0), QStringLiteral("v VNEditPreventionDelegate"));
-        QCOMPARE(header->text(4), QStringLiteral("Col4 with very long name"));
-        QCOMPARE(header->toolTip(4), QStringLiteral("Different Tooltip"));
+        QCOMPARE(m_tree->headerItem()->toolTip(4), QStringLiteral("Different Tooltip"));
         const QStringList captions{"ColorBoxDelegate", "VNToolTipButtonDelegate", "IconToggleDelegate Check",
                                    "VNItemDelegate Check", "IconToggleDelegate Radio"};
         for (int row = 0; row < captions.size(); ++row)

@@ -1,10 +1,12 @@
+#include "LauncherTable.h"
 #include "Loupe.h"
 #include "TestWidgetCollection.h"
+#include "WindowWalk.h"
 
 #include <DebugStyleSheet.h>
-#include <VNLabel.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
@@ -12,57 +14,6 @@
 #include <memory>
 
 namespace {
-struct Entry
-{
-    const char* name;
-    const char* text;
-    const char* opens; // the class of the window the button opens, "+" first when every click makes a new one;
-                       // empty while it opens none yet
-};
-
-// What robots and users rely on: every button's name and text, and the window behind it.
-const Entry entries[] = {
-    {"showStyleSheet", "Show StyleSheet", "DebugStyleSheet"},
-    {"stateDebug", "State Debug", "DebugStateInfo"},
-    {"m_visualizePointsControl", "PointsControl", "TestVisualizePointsControl"},
-    {"testMasterDetailTree", "Master Detail Tree", "TestMasterDetailTree"},
-    {"testPathShortener", "PathShortener", "TestStringReducer"},
-    {"testComboBox", "ComboBox", "TestComboBox"},
-    {"testValueFields", "ValueFields", "TestValueFields"},
-    {"testComposePixmap", "Compose Pixmap", "TestComposePixmap"},
-    {"testFlipWidget", "FlipWidget", "TestFlipWidget"},
-    {"testColorDisplay", "Color Display", "TestColorDisplay"},
-    {"m_testRegExp", "Reg Exp", "TestRegExp"},
-    {"m_testTreeDelegates", "Tree Delegates", "TestTreeDelegates"},
-    {"m_testTreeItemDelegate", "Tree Item Delegate", "TestTreeItemDelegate"},
-    {"m_testLayouts", "Layout && SizeHint", "TestLayoutExample"},
-    {"m_testAlignment", "TestAlignment", "TestAlignment"},
-    {"m_QtTraining", "Qt Training", "QtTraining"},
-    {"m_testSVG", "Test SVG", "TestSVG"},
-    {"m_testLayoutHelper", "VNLayoutHelper", "TestLayoutHelper"},
-    {"m_testDendrogramWidget", "DendrogramTest", "TestDendrogramWidget"},
-    {"m_compareIcons", "Compare PNG and SVG Icons", "TestCompareIcons"},
-    {"m_testSquish", "Squish", "TestSquish"},
-    {"m_testAnimatedTabBar", "Animated Tab Bar (QML)", "TestVNAnimatedTabBar"},
-    {"m_testNewAssemblyImport", "VNTreeView for Assembly Import Test", "TestNewAssemblyImport"},
-    {"testDisclosure", "VNProgressiveDisclosure", "TestDisclosure"},
-    {"testVnSlider", "VNSlider", "TestVNSliderView"},
-    {"testVNAdvancedMenu", "VNAdvancedMenu", "TestAdvancedMenu"},
-    {"testCurveInputControl", "VNCurveInputControl", "TestCurveInputControl"},
-    {"testInfoArea", "Test InfoArea", "TestInfoArea"},
-    {"testVNModuleNavigation", "VNModuleNavigation", "TestModuleNavigation"},
-    {"testTableWidget", "VNTableWidget/View", "TestVNTableWidget"},
-    {"testTreeWidget", "Tree Widget/View", "TestTreeWidget"},
-    {"m_joinsTestTable", "Joins Table", "TestJoinsTable"},
-    {"m_vnResultSwitcher", "VNResultSwitcher", "+TestVNResultSwitcher"},
-    {"m_testVNTreeView", "VNTreeView", "TestVNTreeView"},
-    {"m_testVirtualSlider", "VirtualSlider", "TestVirtualSlider"},
-    {"m_testDragAndDrop", "Drag && Drop", "TestDragAndDrop"},
-    {"m_progressTest", "ProgressSimu", "TestProgressComposition"},
-    {"m_converterTest", "ConverterUtility", "+Varnis::FileConverterDialog"},
-    {"m_testVNMessageBox", "VNMessageBox", "TestVNMessageBox"},
-};
-
 QPushButton* button(QWidget* panel, const char* name)
 {
     return panel->findChild<QPushButton*>(QLatin1String(name));
@@ -78,6 +29,10 @@ QList<QWidget*> windows(QWidget* panel, const char* className = nullptr)
     }
     return found;
 }
+void clickAsUser(QWidget* panel, const char* name)
+{
+    QTest::mouseClick(button(panel, name), Qt::LeftButton);
+}
 } // namespace
 
 class LauncherPanelTest : public QObject
@@ -88,12 +43,12 @@ private slots:
     void cleanup();
     void buttons_data();
     void buttons();
-    void header();
     void tabOrder();
     void styleSheetViewerIsEditable();
-    void stateDebugComesToFront();
+    void raisedWindowComesToFront();
     void loupeFollowsLatestVisibleWindow();
     void destructorDeletesInspectionWindowsFirst();
+    void walkVisitsEachNewWindowOnceAndEndsModalOnes();
 };
 
 void LauncherPanelTest::cleanup()
@@ -103,49 +58,42 @@ void LauncherPanelTest::cleanup()
 
 void LauncherPanelTest::buttons_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("opens");
-    for (const Entry& entry : entries)
-        QTest::newRow(entry.name) << entry.text << entry.opens;
+    QTest::addColumn<int>("row");
+    for (int row = 0; row < LauncherTable::entries().size(); ++row)
+        QTest::newRow(LauncherTable::entries().at(row).button) << row;
 }
 
-// A click opens the window once with the panel as its parent; the next click shows the same one.
+// Two clicks on each button, as the launcher table says: a kept window is made once and shown again
+// (and is the one the panel holds), otherwise every click shows a window of its own. Every window
+// is the panel's.
 void LauncherPanelTest::buttons()
 {
-    QFETCH(QString, text);
-    QFETCH(QString, opens);
+    QFETCH(int, row);
+    const LauncherTable::Entry& entry = LauncherTable::entries().at(row);
+    if (entry.policy == LauncherTable::Policy::MovesLoupe)
+        QSKIP("the loupe is no window of its own: loupeFollowsLatestVisibleWindow");
     TestWidgetCollection panel(nullptr, Qt::WindowFlags());
     panel.show();
-    QPushButton* launch = button(&panel, QTest::currentDataTag());
-    QVERIFY(launch);
-    QCOMPARE(launch->text(), text);
-    if (opens.isEmpty())
-        return;
-    const bool newPerClick = opens.startsWith(QLatin1Char('+'));
-    const QByteArray className = opens.mid(newPerClick ? 1 : 0).toLatin1();
-    launch->click();
-    QCOMPARE(windows(&panel, className).size(), 1);
-    QWidget* window = windows(&panel, className).first();
-    QVERIFY(window->isVisible());
-    window->close();
-    launch->click();
-    if (newPerClick) {
-        QCOMPARE(windows(&panel, className).size(), 2);
-        QVERIFY(windows(&panel, className).last()->isVisible());
-        return;
+    QList<QWidget*> opened;
+    for (int click = 0; click < 2; ++click) {
+        const QList<QWidget*> before = windows(&panel);
+        clickAsUser(&panel, entry.button);
+        for (QWidget* window : windows(&panel)) {
+            if (!before.contains(window))
+                opened << window;
+        }
+        if (entry.policy == LauncherTable::Policy::Kept) {
+            QWidget* kept = entry.kept(panel);
+            QVERIFY(kept && kept->isVisible() && kept->isWindow());
+            QCOMPARE(opened, QList<QWidget*>({kept}));
+            kept->close();
+        }
     }
-    QCOMPARE(windows(&panel, className), QList<QWidget*>({window}));
-    QVERIFY(window->isVisible());
-}
-
-void LauncherPanelTest::header()
-{
-    TestWidgetCollection panel(nullptr, Qt::WindowFlags());
-    QCOMPARE(panel.windowTitle(), QStringLiteral("TestWidgetCollection"));
-    QCOMPARE(button(&panel, "loupe")->text(), QStringLiteral("Show Loupe"));
-    auto* header = panel.findChild<VNLabel*>(QStringLiteral("vnLabel"));
-    QVERIFY(header && header->isHeader());
-    QCOMPARE(header->text(), QStringLiteral("VNWidgets Examples"));
+    if (entry.policy != LauncherTable::Policy::Kept) {
+        QCOMPARE(opened.size(), 2);
+        QVERIFY(opened.at(0)->isVisible() && opened.at(1)->isVisible());
+        QVERIFY(!entry.kept(panel));
+    }
 }
 
 void LauncherPanelTest::tabOrder()
@@ -170,42 +118,49 @@ void LauncherPanelTest::tabOrder()
 void LauncherPanelTest::styleSheetViewerIsEditable()
 {
     TestWidgetCollection panel(nullptr, Qt::WindowFlags());
-    button(&panel, "showStyleSheet")->click();
+    clickAsUser(&panel, "showStyleSheet");
     auto* viewer = panel.findChild<DebugStyleSheet*>();
     QVERIFY(viewer && viewer->isVisible());
     QVERIFY(!viewer->isReadOnly());
     QVERIFY(!viewer->findChild<QPlainTextEdit*>()->isReadOnly());
 }
 
-// The state-debug window is raised above the other windows on every click. The headless platform
-// cannot stack windows; it says so each time a window is raised, which shows that it was.
-void LauncherPanelTest::stateDebugComesToFront()
+// A raised window comes to the front on every click. The headless platform cannot stack windows;
+// it says so each time a window is raised, which shows that it was.
+void LauncherPanelTest::raisedWindowComesToFront()
 {
     if (QGuiApplication::platformName() != QLatin1String("offscreen"))
         QSKIP("the raise is seen through the headless platform");
     TestWidgetCollection panel(nullptr, Qt::WindowFlags());
     panel.show();
-    for (int click = 0; click < 2; ++click) {
-        QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
-        button(&panel, "stateDebug")->click();
-        QVERIFY(windows(&panel, "DebugStateInfo").first()->isVisible());
+    int raised = 0;
+    for (const LauncherTable::Entry& entry : LauncherTable::entries()) {
+        if (entry.extra != LauncherTable::Extra::Raised)
+            continue;
+        for (int click = 0; click < 2; ++click) {
+            QTest::ignoreMessage(QtWarningMsg, "This plugin does not support raise()");
+            clickAsUser(&panel, entry.button);
+            QVERIFY(entry.kept(panel)->isVisible());
+        }
+        ++raised;
     }
+    QCOMPARE(raised, 1);
 }
 
 void LauncherPanelTest::loupeFollowsLatestVisibleWindow()
 {
     TestWidgetCollection panel(nullptr, Qt::WindowFlags());
     panel.show();
-    button(&panel, "loupe")->click();
+    clickAsUser(&panel, "loupe");
     auto* loupe = panel.findChild<Loupe*>();
     QVERIFY(loupe && loupe->isVisible());
     QCOMPARE(loupe->parentWidget(), &panel);
-    button(&panel, "m_QtTraining")->click();
-    button(&panel, "m_testVNMessageBox")->click();
+    clickAsUser(&panel, "m_QtTraining");
+    clickAsUser(&panel, "m_testVNMessageBox");
     QWidget* training = windows(&panel, "QtTraining").first();
     QWidget* messageTest = windows(&panel, "TestVNMessageBox").first();
     for (QWidget* expected : {messageTest, training, static_cast<QWidget*>(&panel)}) {
-        button(&panel, "loupe")->click();
+        clickAsUser(&panel, "loupe");
         QCOMPARE(loupe->parentWidget(), expected);
         QVERIFY(loupe->isVisible());
         expected->close();
@@ -218,7 +173,7 @@ void LauncherPanelTest::destructorDeletesInspectionWindowsFirst()
     auto panel = std::make_unique<TestWidgetCollection>(nullptr, Qt::WindowFlags());
     panel->show();
     for (const char* name : {"m_QtTraining", "stateDebug", "m_testVNMessageBox", "showStyleSheet"})
-        button(panel.get(), name)->click();
+        clickAsUser(panel.get(), name);
     QStringList order;
     for (QWidget* window : windows(panel.get())) {
         const QString name = QString::fromLatin1(window->metaObject()->className());
@@ -226,6 +181,32 @@ void LauncherPanelTest::destructorDeletesInspectionWindowsFirst()
     }
     panel.reset();
     QCOMPARE(order, QStringList({"DebugStyleSheet", "DebugStateInfo", "QtTraining", "TestVNMessageBox"}));
+}
+
+// A click that shows a window and then runs another modally: the walk visits both once, in the
+// order of their names, from inside the modal loop, and then ends the modal one.
+void LauncherPanelTest::walkVisitsEachNewWindowOnceAndEndsModalOnes()
+{
+    QWidget panel;
+    auto* launch = new QPushButton(QStringLiteral("Open"), &panel);
+    QDialog modeless(&panel);
+    modeless.setObjectName(QStringLiteral("zeta"));
+    QDialog modal(&panel);
+    modal.setObjectName(QStringLiteral("alpha"));
+    int result = -1;
+    connect(launch, &QPushButton::clicked, this, [&] {
+        modeless.show();
+        result = modal.exec();
+    });
+    panel.show();
+    QStringList visited;
+    const bool goOn = WindowWalk(50).click(launch, [&](QWidget* window, int index) {
+        visited << QStringLiteral("%1 %2 %3").arg(index).arg(window->objectName()).arg(modal.isVisible());
+        return true;
+    });
+    QVERIFY(goOn);
+    QCOMPARE(visited, QStringList({"0 alpha 1", "1 zeta 1"}));
+    QCOMPARE(result, int(QDialog::Rejected));
 }
 
 QTEST_MAIN(LauncherPanelTest)

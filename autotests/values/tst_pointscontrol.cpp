@@ -1,11 +1,9 @@
 #include "TestVisualizePointsControl.h"
 
 #include <VNDisplayNeededInput.h>
-#include <VNLabel.h>
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QFormLayout>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QSpinBox>
@@ -46,9 +44,6 @@ class PointsControlTest : public QObject
 
 private slots:
     void cleanup();
-    void form();
-    void formRows_data();
-    void formRows();
     void sampleDataReachesDisplay();
     void fieldsDriveDisplay();
     void useOptionalMirrorsDisplayWithoutFeedback();
@@ -60,64 +55,14 @@ void PointsControlTest::cleanup()
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-void PointsControlTest::form()
-{
-    TestVisualizePointsControl dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestVisualizePointsControlClass"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestVisualizePointsControl"));
-    QVERIFY(dialog.findChild<VNDisplayNeededInput*>(QStringLiteral("m_display")));
-}
-
-void PointsControlTest::formRows_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QStringList>("label"); // name, class, text
-    QTest::addColumn<QStringList>("field"); // name, class
-    const QStringList rows[][2] = {
-        {{"vnLabel", "VNLabel", "Points needed"}, {"m_points", "QSpinBox"}},
-        {{"vnLabel_3", "VNLabel", "Points optional"}, {"m_optionalPoints", "QSpinBox"}},
-        {{"vnLabel_2", "VNLabel", "Points checked"}, {"m_checked", "QSpinBox"}},
-        {{"label", "QLabel", "Info Text"}, {"m_infoText", "QLineEdit"}},
-        {{}, {"m_useOptional", "QCheckBox"}},
-    };
-    for (int row = 0; row < 5; ++row)
-        QTest::newRow(qPrintable(rows[row][1].first())) << row << rows[row][0] << rows[row][1];
-}
-
-void PointsControlTest::formRows()
-{
-    QFETCH(int, row);
-    QFETCH(QStringList, label);
-    QFETCH(QStringList, field);
-    TestVisualizePointsControl dialog(nullptr);
-    auto* form = dialog.findChild<QFormLayout*>(QStringLiteral("formLayout"));
-    QWidget* fieldWidget = form->itemAt(row, QFormLayout::FieldRole)->widget();
-    QCOMPARE(fieldWidget->objectName(), field.at(0));
-    QCOMPARE(fieldWidget->metaObject()->className(), qPrintable(field.at(1)));
-    QLayoutItem* labelItem = form->itemAt(row, QFormLayout::LabelRole);
-    if (label.isEmpty()) {
-        QVERIFY(!labelItem);
-        QCOMPARE(qobject_cast<QCheckBox*>(fieldWidget)->text(), QStringLiteral("use optional"));
-        return;
-    }
-    auto* labelWidget = qobject_cast<QLabel*>(labelItem->widget());
-    QCOMPARE(labelWidget->objectName(), label.at(0));
-    QCOMPARE(labelWidget->metaObject()->className(), qPrintable(label.at(1)));
-    QCOMPARE(labelWidget->text(), label.at(2));
-}
-
 void PointsControlTest::sampleDataReachesDisplay()
 {
     TestVisualizePointsControl dialog(nullptr);
     const Controls controls(&dialog);
-    QCOMPARE(controls.points->value(), 2);
-    QCOMPARE(controls.infoText->text(), sampleText);
     QCOMPARE(controls.display->needed(), 2);
     QCOMPARE(controls.display->infoText(), sampleText);
     QCOMPARE(controls.display->optional(), 0);
     QCOMPARE(controls.display->checked(), 0);
-    QVERIFY(!controls.useOptional->isChecked());
-    QVERIFY(controls.optional->isEnabled());
 }
 
 void PointsControlTest::fieldsDriveDisplay()

@@ -1,9 +1,9 @@
+#include "../TestSupport.h"
 #include "TestStringReducer.h"
 
 #include <PathShortener.h>
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSpinBox>
@@ -14,25 +14,9 @@ const QString samplePath = QStringLiteral("I:\\datablabla\\work\\temporary\\TP_9
 const QString sampleName = QStringLiteral("TP_96757_hemming_plan.vnd");
 const QString leastWithName = QStringLiteral("I:\\%1\\TP_96757_hemming_plan.vnd").arg(PathShortener::ellipsis);
 
-template<typename Widget>
-Widget* child(QWidget* dialog, const char* name)
-{
-    auto* widget = dialog->findChild<Widget*>(QLatin1String(name));
-    if (!widget)
-        qWarning("no %s named %s", Widget::staticMetaObject.className(), name);
-    return widget;
-}
-
 QLineEdit* field(QWidget* dialog)
 {
     return child<QLineEdit>(dialog, "label");
-}
-
-// Clicks on the box itself: a check box stretched by its layout ignores clicks beside its text.
-void clickCheckBox(QWidget* dialog, const char* name)
-{
-    auto* box = child<QCheckBox>(dialog, name);
-    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(box->height() / 2, box->height() / 2));
 }
 
 int textWidth(QLineEdit* edit)
@@ -47,7 +31,6 @@ class StringReducerTest : public QObject
 
 private slots:
     void cleanup();
-    void form();
     void sampleData();
     void fixedWidth_data();
     void fixedWidth();
@@ -61,33 +44,17 @@ void StringReducerTest::cleanup()
     QTRY_VERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
-// What robots rely on: names, classes and texts, and the width field's range as users see it.
-void StringReducerTest::form()
+void StringReducerTest::sampleData()
 {
     TestStringReducer dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestStringReducerClass"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("TestStringReducer"));
-    QVERIFY(child<QLineEdit>(&dialog, "lineEdit"));
-    QCOMPARE(child<QPushButton>(&dialog, "pushButton")->text(), QStringLiteral("Adjust"));
-    QCOMPARE(child<QCheckBox>(&dialog, "checkBox")->text(), QStringLiteral("Adjust on Resize"));
-    QCOMPARE(child<QCheckBox>(&dialog, "m_fixedWidth")->text(), QStringLiteral("Set Fixed Width"));
+    QVERIFY(field(&dialog)->text().isEmpty());
     QVERIFY(field(&dialog)->isReadOnly());
+    // The width stays within what the field can show.
     auto* width = child<QSpinBox>(&dialog, "m_width");
-    QCOMPARE(width->text(), QStringLiteral("%1 px").arg(width->value()));
     width->setValue(700);
     QCOMPARE(width->value(), 600);
     width->setValue(-1);
     QCOMPARE(width->value(), 0);
-}
-
-void StringReducerTest::sampleData()
-{
-    TestStringReducer dialog(nullptr);
-    QCOMPARE(child<QLineEdit>(&dialog, "lineEdit")->text(), samplePath);
-    QCOMPARE(child<QSpinBox>(&dialog, "m_width")->value(), 258);
-    QVERIFY(!child<QCheckBox>(&dialog, "m_fixedWidth")->isChecked());
-    QVERIFY(!child<QCheckBox>(&dialog, "checkBox")->isChecked());
-    QVERIFY(field(&dialog)->text().isEmpty());
 }
 
 void StringReducerTest::fixedWidth_data()
@@ -108,7 +75,7 @@ void StringReducerTest::fixedWidth()
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     auto* spinBox = child<QSpinBox>(&dialog, "m_width");
-    clickCheckBox(&dialog, "m_fixedWidth");
+    clickButton(&dialog, "m_fixedWidth");
     spinBox->setValue(width == 258 ? 300 : 258);
     spinBox->setValue(width);
     QLineEdit* result = field(&dialog);
@@ -145,11 +112,11 @@ void StringReducerTest::freeingTheWidthWaitsForTheNextAdjust()
     QLineEdit* result = field(&dialog);
     const int freeWidth = result->width();
     child<QSpinBox>(&dialog, "m_width")->setValue(150);
-    clickCheckBox(&dialog, "m_fixedWidth");
+    clickButton(&dialog, "m_fixedWidth");
     const QString narrow = result->text();
     QVERIFY(narrow != samplePath);
 
-    clickCheckBox(&dialog, "m_fixedWidth");
+    clickButton(&dialog, "m_fixedWidth");
     QCOMPARE(result->minimumWidth(), 10);
     QCOMPARE(result->maximumWidth(), QWIDGETSIZE_MAX);
     QCOMPARE(result->text(), narrow);
@@ -170,7 +137,7 @@ void StringReducerTest::adjustOnResize()
     QVERIFY(result->text().isEmpty()); // not adjusting on resize yet
 
     dialog.resize(400, 139);
-    clickCheckBox(&dialog, "checkBox");
+    clickButton(&dialog, "checkBox");
     const QString narrow = result->text();
     QVERIFY(!narrow.isEmpty());
     QVERIFY(narrow != samplePath);
@@ -180,7 +147,7 @@ void StringReducerTest::adjustOnResize()
     dialog.resize(400, 139);
     QTRY_COMPARE(result->text(), narrow);
 
-    clickCheckBox(&dialog, "checkBox");
+    clickButton(&dialog, "checkBox");
     dialog.resize(1400, 139);
     QCOMPARE(result->text(), narrow);
 }

@@ -1,39 +1,12 @@
+#include "../TestSupport.h"
 #include "TestVirtualSlider.h"
 
-#include <VNCheckBox.h>
 #include <VNDoubleSpinBox.h>
 #include <VNLabel.h>
-#include <VNRadioButton.h>
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QTest>
-
-namespace {
-template<typename T>
-T* child(QWidget* dialog, const QString& name)
-{
-    T* found = dialog->findChild<T*>(name);
-    if (!found)
-        qFatal("no %s", qPrintable(name));
-    return found;
-}
-
-void sendMouse(QWidget* widget, QEvent::Type type, QPoint position, Qt::MouseButton button, Qt::MouseButtons buttons)
-{
-    QMouseEvent event(type, position, widget->mapToGlobal(position), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
-void clickButton(QAbstractButton* button)
-{
-    QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(6, button->height() / 2));
-}
-
-const QStringList fieldNames = {"m_vnDSpinBox",   "m_vnDSpinBox_1", "m_vnDSpinBox_2", "m_vnDSpinBox_4",
-                                "m_vnDSpinBox_8", "m_vnDSpinBox_9", "m_vnDSpinBox_6"};
-} // namespace
 
 class TestVirtualSliderDialog : public QObject
 {
@@ -42,8 +15,6 @@ class TestVirtualSliderDialog : public QObject
 private slots:
     void cleanup();
 
-    void form();
-    void buddiesDisabledAtStart();
     void radioButtonEnablesOnlyItsField_data();
     void radioButtonEnablesOnlyItsField();
     void checkBoxTogglesItsField_data();
@@ -55,30 +26,6 @@ private slots:
 void TestVirtualSliderDialog::cleanup()
 {
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
-}
-
-void TestVirtualSliderDialog::form()
-{
-    TestVirtualSlider dialog(nullptr);
-    QCOMPARE(dialog.objectName(), QStringLiteral("TestVirtualSliderClass"));
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
-    QCOMPARE(child<QWidget>(&dialog, "m_groupBox")->property("title").toString(), QStringLiteral("GroupBox"));
-    QCOMPARE(child<VNRadioButton>(&dialog, "m_vnRadioButton_3")->text(), QStringLiteral("RadioButton"));
-    QCOMPARE(child<VNCheckBox>(&dialog, "m_vnCheckBox_1")->text(), QStringLiteral("CheckBox"));
-    QCOMPARE(child<VNLabel>(&dialog, "vnLabel")->alignment(), Qt::AlignCenter);
-    QCOMPARE(dialog.findChildren<VNDoubleSpinBox*>().size(), 8);
-    QCOMPARE(child<VNRadioButton>(&dialog, "m_vnRadioButton_1")->buddy(),
-             child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_1"));
-    QCOMPARE(child<VNCheckBox>(&dialog, "m_vnCheckBox_2")->buddy(), child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_9"));
-}
-
-void TestVirtualSliderDialog::buddiesDisabledAtStart()
-{
-    TestVirtualSlider dialog(nullptr);
-    for (const QString& name : fieldNames)
-        QVERIFY2(!child<VNDoubleSpinBox>(&dialog, name)->isEnabled(), qPrintable(name));
-    QVERIFY(child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_3")->isEnabled());
-    QVERIFY(!child<VNCheckBox>(&dialog, "m_vnCheckBox_2")->isEnabled());
 }
 
 void TestVirtualSliderDialog::radioButtonEnablesOnlyItsField_data()
@@ -98,8 +45,8 @@ void TestVirtualSliderDialog::radioButtonEnablesOnlyItsField()
     QFETCH(QStringList, enabledFields);
     TestVirtualSlider dialog(nullptr);
     dialog.show();
-    clickButton(child<VNRadioButton>(&dialog, "m_vnRadioButton_1"));
-    clickButton(child<VNRadioButton>(&dialog, button));
+    clickButton(&dialog, "m_vnRadioButton_1");
+    clickButton(&dialog, button);
     for (const QString& name : QStringList{"m_vnDSpinBox", "m_vnDSpinBox_1", "m_vnDSpinBox_2", "m_vnDSpinBox_6"})
         QCOMPARE(child<VNDoubleSpinBox>(&dialog, name)->isEnabled(), enabledFields.contains(name));
     QVERIFY(child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_3")->isEnabled());
@@ -121,11 +68,10 @@ void TestVirtualSliderDialog::checkBoxTogglesItsField()
     QFETCH(QString, field);
     TestVirtualSlider dialog(nullptr);
     dialog.show();
-    auto* checkBox = child<VNCheckBox>(&dialog, box);
     auto* spinBox = child<VNDoubleSpinBox>(&dialog, field);
-    clickButton(checkBox);
+    clickButton(&dialog, box);
     QVERIFY(spinBox->isEnabled());
-    clickButton(checkBox);
+    clickButton(&dialog, box);
     QVERIFY(!spinBox->isEnabled());
 }
 
@@ -133,10 +79,10 @@ void TestVirtualSliderDialog::cursorPositionWhileButtonHeld()
 {
     TestVirtualSlider dialog(nullptr);
     dialog.show();
-    sendMouse(&dialog, QEvent::MouseButtonPress, QPoint(300, 500), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(&dialog, QEvent::MouseMove, QPoint(312, 507), Qt::NoButton, Qt::LeftButton);
+    sendLeftButtonDrag(&dialog, QEvent::MouseButtonPress, QPoint(300, 500));
+    sendLeftButtonDrag(&dialog, QEvent::MouseMove, QPoint(312, 507));
     QCOMPARE(child<VNLabel>(&dialog, "vnLabel_5")->text(), QStringLiteral("Cursor pos: 312/507"));
-    sendMouse(&dialog, QEvent::MouseButtonRelease, QPoint(312, 507), Qt::LeftButton, Qt::NoButton);
+    sendLeftButtonDrag(&dialog, QEvent::MouseButtonRelease, QPoint(312, 507));
 }
 
 void TestVirtualSliderDialog::fieldValueCanBeDragged()
@@ -146,9 +92,9 @@ void TestVirtualSliderDialog::fieldValueCanBeDragged()
     auto* field = child<VNDoubleSpinBox>(&dialog, "m_vnDSpinBox_3");
     QWidget* edit = field->findChild<QLineEdit*>();
     const double before = field->value();
-    sendMouse(edit, QEvent::MouseButtonPress, QPoint(10, 8), Qt::LeftButton, Qt::LeftButton);
-    sendMouse(edit, QEvent::MouseMove, QPoint(30, 8), Qt::NoButton, Qt::LeftButton);
-    sendMouse(edit, QEvent::MouseButtonRelease, QPoint(30, 8), Qt::LeftButton, Qt::NoButton);
+    sendLeftButtonDrag(edit, QEvent::MouseButtonPress, QPoint(10, 8));
+    sendLeftButtonDrag(edit, QEvent::MouseMove, QPoint(30, 8));
+    sendLeftButtonDrag(edit, QEvent::MouseButtonRelease, QPoint(30, 8));
     QCOMPARE(field->value(), before + 5 * field->singleStep());
 }
 

@@ -1,6 +1,7 @@
 // Prints what the slider, combo box and curve input dialogs cost: first opening of each dialog,
 // a repaint of a slider with 1,000 markers, and filtering a 50,000-entry filter combo box per
 // keystroke. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_controls
+#include "../BenchTiming.h"
 #include "TestComboBox.h"
 #include "TestCurveInputControl.h"
 #include "TestVNSliderView.h"
@@ -14,46 +15,23 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTextStream>
 
-#include <algorithm>
-#include <ctime>
-#include <vector>
-
 namespace {
-double ms(qint64 nanoseconds)
-{
-    return nanoseconds / 1.0e6;
-}
-
-// CPU time of this thread: on a busy machine the wall clock also counts other programs.
-double threadCpuMs()
-{
-    timespec now{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-    return now.tv_sec * 1.0e3 + now.tv_nsec / 1.0e6;
-}
-
 template<typename Dialog>
 QString firstOpen(QWidget* panel)
 {
-    QElapsedTimer timer;
-    timer.start();
-    const double cpuStart = threadCpuMs();
-    auto* dialog = new Dialog(panel);
-    dialog->show();
-    QApplication::processEvents();
-    const double wall = ms(timer.nsecsElapsed());
-    const double cpu = threadCpuMs() - cpuStart;
-    const QString line = QString("first open %1: %2 ms CPU, %3 ms wall (goal 50 ms)\n")
-                             .arg(QLatin1String(dialog->metaObject()->className()))
-                             .arg(cpu, 0, 'f', 2)
-                             .arg(wall, 0, 'f', 2);
+    Dialog* dialog = nullptr;
+    const BenchTiming::Timing open = BenchTiming::once([&] {
+        dialog = new Dialog(panel);
+        dialog->show();
+        QApplication::processEvents();
+    });
+    const QString name = QLatin1String(dialog->metaObject()->className());
     delete dialog;
-    return line;
+    return BenchTiming::line(QStringLiteral("first open ") + name, open, QStringLiteral("goal 50 ms"));
 }
 
 void typeKey(QWidget* widget, char key)
@@ -63,12 +41,6 @@ void typeKey(QWidget* widget, char key)
     QKeyEvent release(QEvent::KeyRelease, Qt::Key_0 + (key - '0'), Qt::NoModifier, text);
     QApplication::sendEvent(widget, &press);
     QApplication::sendEvent(widget, &release);
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 void benchSliderRepaint(QTextStream& out)
@@ -84,22 +56,8 @@ void benchSliderRepaint(QTextStream& out)
     slider.show();
     QApplication::processEvents();
     slider.repaint();
-    std::vector<double> wall;
-    std::vector<double> cpu;
-    for (int round = 0; round < 50; ++round) {
-        QElapsedTimer timer;
-        timer.start();
-        const double cpuStart = threadCpuMs();
-        slider.repaint();
-        cpu.push_back(threadCpuMs() - cpuStart);
-        wall.push_back(ms(timer.nsecsElapsed()));
-    }
-    out << QString("slider with 1,000 markers, repaint: median %1 ms CPU (worst %2), median %3 ms wall (worst %4) "
-                   "(goal 4 ms)\n")
-               .arg(median(cpu), 0, 'f', 2)
-               .arg(*std::max_element(cpu.begin(), cpu.end()), 0, 'f', 2)
-               .arg(median(wall), 0, 'f', 2)
-               .arg(*std::max_element(wall.begin(), wall.end()), 0, 'f', 2);
+    out << BenchTiming::line(QStringLiteral("slider with 1,000 markers, repaint"),
+                             BenchTiming::repeat(50, [&] { slider.repaint(); }), QStringLiteral("goal 4 ms"));
 }
 
 void benchFilter(QTextStream& out)
@@ -115,21 +73,17 @@ void benchFilter(QTextStream& out)
     combo.setFocus();
     combo.lineEdit()->clear();
     QApplication::processEvents();
-    std::vector<double> times;
+    const QByteArray typed("4711");
     int shown = 0;
-    for (const char key : QByteArray("4711")) {
-        QElapsedTimer timer;
-        timer.start();
-        typeKey(combo.lineEdit(), key);
+    int typedKeys = 0;
+    const BenchTiming::Samples keystrokes = BenchTiming::repeat(typed.size(), [&] {
+        typeKey(combo.lineEdit(), typed.at(typedKeys++));
         shown = combo.filterCompleter()->completionCount();
         QApplication::processEvents();
-        times.push_back(ms(timer.nsecsElapsed()));
-    }
-    out << QString("filter combo box, 50,000 entries: per keystroke median %1 ms, worst %2 ms, %3 left after "
-                   "\"4711\" (goal 50 ms)\n")
-               .arg(median(times), 0, 'f', 2)
-               .arg(*std::max_element(times.begin(), times.end()), 0, 'f', 2)
-               .arg(shown);
+    });
+    out << BenchTiming::line(QStringLiteral("filter combo box, 50,000 entries, per keystroke of \"4711\""), keystrokes,
+                             QStringLiteral("goal 50 ms"));
+    out << QStringLiteral("  %1 entries left after \"4711\"\n").arg(shown);
 }
 } // namespace
 

@@ -3,6 +3,7 @@
 // and how long a result switcher of 200 buttons takes to build. With a folder argument it also
 // saves pictures of the dialogs' pop-up menus and of the progress bar's looks there.
 // Run it headless: QT_QPA_PLATFORM=offscreen ./bench_controls2 [DIR]
+#include "../BenchTiming.h"
 #include "TestAdvancedMenu.h"
 #include "TestModuleNavigation.h"
 #include "TestProgressComposition.h"
@@ -18,7 +19,6 @@
 #include <QApplication>
 #include <QCommandLinkButton>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -27,35 +27,20 @@
 #include <QVBoxLayout>
 #include <QVariantAnimation>
 
-#include <algorithm>
-#include <ctime>
 #include <functional>
 
 namespace {
-double ms(qint64 nanoseconds)
-{
-    return nanoseconds / 1.0e6;
-}
-
-// Processor time of this process: on a loaded machine the wall clock also counts other programs.
-double cpuMs()
-{
-    return 1000.0 * double(std::clock()) / CLOCKS_PER_SEC;
-}
-
 template<typename Dialog>
-QPair<double, double> firstOpen()
+BenchTiming::Timing firstOpen()
 {
-    QElapsedTimer timer;
-    const double cpuStart = cpuMs();
-    timer.start();
-    auto* dialog = new Dialog(nullptr);
-    dialog->show();
-    QCoreApplication::processEvents();
-    const qint64 elapsed = timer.nsecsElapsed();
-    const double cpu = cpuMs() - cpuStart;
+    Dialog* dialog = nullptr;
+    const BenchTiming::Timing open = BenchTiming::once([&] {
+        dialog = new Dialog(nullptr);
+        dialog->show();
+        QCoreApplication::processEvents();
+    });
     delete dialog;
-    return {ms(elapsed), cpu};
+    return open;
 }
 
 // The host has shown its panel before any dialog opens: fonts, style and plug-ins are loaded.
@@ -73,18 +58,15 @@ void warmUp()
 void measureFirstOpen(QTextStream& out)
 {
     warmUp();
-    const QList<QPair<QString, std::function<QPair<double, double>()>>> dialogs = {
+    const QList<QPair<QString, std::function<BenchTiming::Timing()>>> dialogs = {
         {QStringLiteral("TestAdvancedMenu"), firstOpen<TestAdvancedMenu>},
         {QStringLiteral("TestVNAnimatedTabBar"), firstOpen<TestVNAnimatedTabBar>},
         {QStringLiteral("TestVNResultSwitcher"), firstOpen<TestVNResultSwitcher>},
         {QStringLiteral("TestModuleNavigation"), firstOpen<TestModuleNavigation>},
         {QStringLiteral("TestProgressComposition"), firstOpen<TestProgressComposition>},
     };
-    for (const auto& dialog : dialogs) {
-        const QPair<double, double> open = dialog.second();
-        out << "first open " << dialog.first << ": " << open.first << " ms wall, " << open.second
-            << " ms processor (budget 50 ms)\n";
-    }
+    for (const auto& dialog : dialogs)
+        out << BenchTiming::line("first open " + dialog.first, dialog.second(), QStringLiteral("budget 50 ms"));
 }
 
 // Drives the animation by hand in 16 ms steps and paints every frame synchronously.
@@ -96,46 +78,38 @@ void measureIndicatorFrames(QTextStream& out)
     bar.resize(bar.sizeHint().width(), 30);
     bar.show();
     QCoreApplication::processEvents();
-    QList<double> frames;
+    BenchTiming::Samples frames;
     for (int target : {29, 0, 15}) {
         bar.setCurrentIndex(target);
         QVariantAnimation* animation = bar.indicatorAnimation();
         animation->pause();
         for (int time = 0; time <= animation->duration(); time += 16) {
-            QElapsedTimer timer;
-            timer.start();
-            animation->setCurrentTime(time);
-            bar.repaint();
-            frames.append(ms(timer.nsecsElapsed()));
+            frames.add(BenchTiming::once([&] {
+                animation->setCurrentTime(time);
+                bar.repaint();
+            }));
         }
         animation->stop();
     }
-    std::sort(frames.begin(), frames.end());
-    double sum = 0;
-    for (double frame : frames)
-        sum += frame;
-    out << "tab indicator, 30 tabs: " << frames.size() << " frames, mean " << sum / frames.size() << " ms, worst "
-        << frames.last() << " ms (budget 16 ms per frame)\n";
+    out << BenchTiming::line(QStringLiteral("tab indicator frame, 30 tabs"), frames,
+                             QStringLiteral("budget 16 ms per frame"));
 }
 
 void measureSwitcherBuild(QTextStream& out)
 {
-    QList<double> runs;
+    BenchTiming::Samples runs;
     const QIcon icon(QStringLiteral(":/Icons/Ribbon/ResultVariable/ZEBRA_LINES.svg"));
     for (int run = 0; run < 5; ++run) {
         VNResultSwitcher switcher;
         switcher.show();
-        QElapsedTimer timer;
-        timer.start();
-        switcher.beginModifyButtons();
-        for (int i = 0; i < 200; ++i)
-            switcher.insertButton(icon, QStringLiteral("Test %1").arg(i), -1, i / 100);
-        switcher.endModifyButtons();
-        runs.append(ms(timer.nsecsElapsed()));
+        runs.add(BenchTiming::once([&] {
+            switcher.beginModifyButtons();
+            for (int i = 0; i < 200; ++i)
+                switcher.insertButton(icon, QStringLiteral("Test %1").arg(i), -1, i / 100);
+            switcher.endModifyButtons();
+        }));
     }
-    std::sort(runs.begin(), runs.end());
-    out << "result switcher, 200 buttons: median " << runs.at(runs.size() / 2) << " ms, worst " << runs.last()
-        << " ms (budget 20 ms)\n";
+    out << BenchTiming::line(QStringLiteral("result switcher, 200 buttons"), runs, QStringLiteral("budget 20 ms"));
 }
 
 void saveMenu(QMenu* menu, const QString& file)
@@ -176,7 +150,6 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     VNStyleSheet::applyTo(&app);
     QTextStream out(stdout);
-    out.setRealNumberPrecision(3);
     measureFirstOpen(out);
     measureIndicatorFrames(out);
     measureSwitcherBuild(out);

@@ -1,11 +1,11 @@
 // Prints what the delegate gallery costs: its first open, and a full repaint of the tree's
 // viewport with every status bit set (the heaviest look). Run it headless:
 // QT_QPA_PLATFORM=offscreen ./bench_delegates
+#include "../BenchTiming.h"
 #include "TestTreeDelegates.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QPixmap>
 #include <QTextStream>
 
@@ -14,13 +14,12 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     QTextStream out(stdout);
 
-    QElapsedTimer timer;
-    timer.start();
+    const BenchTiming::Stopwatch stopwatch;
     TestTreeDelegates dialog(nullptr);
     dialog.resize(1400, 900);
     dialog.show();
     QApplication::processEvents();
-    out << "first open of the delegate gallery: " << timer.nsecsElapsed() / 1.0e6 << " ms\n";
+    out << BenchTiming::line(QStringLiteral("first open of the delegate gallery"), stopwatch.elapsed());
 
     const auto boxes = dialog.findChildren<QCheckBox*>();
     for (QCheckBox* box : boxes) {
@@ -29,12 +28,9 @@ int main(int argc, char** argv)
     }
     QApplication::processEvents();
     QWidget* viewport = dialog.findChild<QTreeWidget*>(QStringLiteral("treeWidget"))->viewport();
-    const int repaints = 50;
     QPixmap target(viewport->size());
-    timer.restart();
-    for (int i = 0; i < repaints; ++i)
-        viewport->render(&target);
-    out << "full viewport repaint (" << viewport->width() << "x" << viewport->height()
-        << ", all status bits): " << timer.nsecsElapsed() / 1.0e6 / repaints << " ms per frame\n";
+    out << BenchTiming::line(
+        QStringLiteral("full viewport repaint (%1x%2, all status bits)").arg(viewport->width()).arg(viewport->height()),
+        BenchTiming::repeat(50, [&] { viewport->render(&target); }));
     return 0;
 }

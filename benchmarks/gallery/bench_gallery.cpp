@@ -2,54 +2,25 @@
 // tab (the tab with the most widgets), and the memory that 20 open/close cycles leave behind.
 // Goals: open < 150 ms, one status word < 30 ms, growth < 1 MB. Run it headless:
 // QT_QPA_PLATFORM=offscreen ./bench_gallery
+#include "../BenchTiming.h"
 #include "TestSquish.h"
 #include "TestWidgetCollection.h"
 
 #include <VNStyleSheet.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QPixmapCache>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTextStream>
 
-#include <algorithm>
 #if defined(__GLIBC__)
 #include <malloc.h>
 #endif
-#include <ctime>
 
 namespace {
 const int openCycles = 20;
-
-// Wall-clock and processor time of one measurement. On a busy machine the processor time is the
-// figure to compare with the goals: the wall clock then also counts other processes.
-struct Stopwatch
-{
-    QElapsedTimer wall;
-    std::clock_t cpu = 0;
-
-    Stopwatch()
-    {
-        wall.start();
-        cpu = std::clock();
-    }
-    double wallMs() const { return wall.nsecsElapsed() / 1.0e6; }
-    double cpuMs() const { return double(std::clock() - cpu) * 1000.0 / CLOCKS_PER_SEC; }
-};
-
-struct Timing
-{
-    double wallMs;
-    double cpuMs;
-};
-
-QTextStream& operator<<(QTextStream& out, const Timing& timing)
-{
-    return out << timing.cpuMs << " ms processor time (" << timing.wallMs << " ms wall clock)";
-}
 
 void settle()
 {
@@ -81,39 +52,30 @@ long heapInUseKb()
 #endif
 }
 
-Timing openAndShow()
+BenchTiming::Timing openAndShow()
 {
-    const Stopwatch stopwatch;
+    const BenchTiming::Stopwatch stopwatch;
     auto* gallery = new TestSquish(nullptr);
     gallery->show();
     QApplication::processEvents();
-    const Timing timing{stopwatch.wallMs(), stopwatch.cpuMs()};
+    const BenchTiming::Timing timing = stopwatch.elapsed();
     delete gallery;
     settle();
     return timing;
 }
 
-Timing median(QVector<Timing> values)
-{
-    std::sort(values.begin(), values.end(), [](const Timing& a, const Timing& b) { return a.cpuMs < b.cpuMs; });
-    return values.at(values.size() / 2);
-}
-
 // Applies "Need Input" and "None" in turn to the tab, each including the repaint that follows.
-Timing applyStatusWord(TestSquish& gallery, QTabWidget* tabs, int tab)
+BenchTiming::Samples applyStatusWord(TestSquish& gallery, QTabWidget* tabs, int tab)
 {
     tabs->setCurrentIndex(tab);
     settle();
     auto* needInput = gallery.findChild<QPushButton*>(QStringLiteral("needInputStateButton"));
     auto* none = gallery.findChild<QPushButton*>(QStringLiteral("noStateButton"));
-    QVector<Timing> times;
-    for (int i = 0; i < 10; ++i) {
-        const Stopwatch stopwatch;
-        (i % 2 ? none : needInput)->click();
+    int clicks = 0;
+    return BenchTiming::repeat(10, [&] {
+        (clicks++ % 2 ? none : needInput)->click();
         gallery.repaint();
-        times << Timing{stopwatch.wallMs(), stopwatch.cpuMs()};
-    }
-    return median(times);
+    });
 }
 } // namespace
 
@@ -128,16 +90,16 @@ int main(int argc, char** argv)
         TestWidgetCollection panel;
         panel.show();
         settle();
-        const Stopwatch stopwatch;
+        const BenchTiming::Stopwatch stopwatch;
         panel.findChild<QPushButton*>(QStringLiteral("m_testSquish"))->click();
         QApplication::processEvents();
-        out << "first open of the gallery from the panel: " << Timing{stopwatch.wallMs(), stopwatch.cpuMs()} << "\n";
+        out << BenchTiming::line(QStringLiteral("first open of the gallery from the panel"), stopwatch.elapsed());
     }
     settle();
-    QVector<Timing> opens;
+    BenchTiming::Samples opens;
     for (int i = 0; i < 5; ++i)
-        opens << openAndShow();
-    out << "open of the gallery (median of 5, goal < 150 ms): " << median(opens) << "\n";
+        opens.add(openAndShow());
+    out << BenchTiming::line(QStringLiteral("open of the gallery"), opens, QStringLiteral("goal < 150 ms"));
 
     {
         TestSquish gallery(nullptr);
@@ -147,13 +109,15 @@ int main(int argc, char** argv)
         int busiest = 0;
         for (int tab = 0; tab < tabs->count(); ++tab) {
             const int widgets = tabs->widget(tab)->findChildren<QWidget*>().size();
-            const Timing timing = applyStatusWord(gallery, tabs, tab);
-            out << "  status word on \"" << tabs->tabText(tab) << "\" (" << widgets << " widgets): " << timing << "\n";
+            out << BenchTiming::line(
+                QStringLiteral("  status word on \"%1\" (%2 widgets)").arg(tabs->tabText(tab)).arg(widgets),
+                applyStatusWord(gallery, tabs, tab));
             if (widgets > tabs->widget(busiest)->findChildren<QWidget*>().size())
                 busiest = tab;
         }
-        out << "one status word on the busiest tab \"" << tabs->tabText(busiest)
-            << "\" (goal < 30 ms): " << applyStatusWord(gallery, tabs, busiest) << "\n";
+        out << BenchTiming::line(
+            QStringLiteral("one status word on the busiest tab \"%1\"").arg(tabs->tabText(busiest)),
+            applyStatusWord(gallery, tabs, busiest), QStringLiteral("goal < 30 ms"));
     }
     settle();
 

@@ -1,5 +1,6 @@
 // Prints the first-open times of the image dialogs and what SVGImage and the SVG test cost for an
 // image of 1,000 text items. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_images
+#include "../BenchTiming.h"
 #include "TestCompareIcons.h"
 #include "TestComposePixmap.h"
 #include "TestConverterUtility.h"
@@ -11,7 +12,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -42,23 +42,15 @@ QString svgWithTextItems(int count)
     return svg + QStringLiteral("</svg>\n");
 }
 
-double milliseconds(const std::function<void()>& work)
-{
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return timer.nsecsElapsed() / 1e6;
-}
-
 void firstOpen(const char* name, const std::function<QWidget*()>& create)
 {
     QWidget* window = nullptr;
-    const double elapsed = milliseconds([&] {
+    const BenchTiming::Timing open = BenchTiming::once([&] {
         window = create();
         window->show();
         QApplication::processEvents();
     });
-    out() << QStringLiteral("first open %1: %2 ms\n").arg(QLatin1String(name)).arg(elapsed, 0, 'f', 1);
+    out() << BenchTiming::line(QStringLiteral("first open ") + QLatin1String(name), open);
     delete window;
 }
 
@@ -105,17 +97,15 @@ int main(int argc, char* argv[])
 
     const QString source = svgWithTextItems(500); // two items per text: 1,000 items
     SVGImage image;
-    const double parse = milliseconds([&] { image.setSVGSource(source); });
-    out() << QStringLiteral("SVGImage parse, %1 text items: %2 ms\n")
-                 .arg(image.getTextItems().size())
-                 .arg(parse, 0, 'f', 1);
+    const BenchTiming::Timing parse = BenchTiming::once([&] { image.setSVGSource(source); });
+    out() << BenchTiming::line(QStringLiteral("SVGImage parse, %1 text items").arg(image.getTextItems().size()), parse);
     for (int index = 0; index < image.getTextItems().size(); ++index) {
         image.setTextItem(index, QStringLiteral("replaced %1").arg(index));
         image.setTextItemUsed(index, true);
     }
     QString modified;
-    const double write = milliseconds([&] { modified = image.getModifiedSource(); });
-    out() << QStringLiteral("SVGImage modified source, all items replaced: %1 ms\n").arg(write, 0, 'f', 1);
+    out() << BenchTiming::line(QStringLiteral("SVGImage modified source, all items replaced"),
+                               BenchTiming::once([&] { modified = image.getModifiedSource(); }));
 
     QTemporaryDir dir;
     QFile file(dir.filePath("items.svg"));
@@ -126,15 +116,12 @@ int main(int argc, char* argv[])
     dialog.show();
     QApplication::processEvents();
     auto* open = dialog.findChild<QToolButton*>(QStringLiteral("openFile"));
-    const double list = milliseconds([&] {
+    const auto openFile = [&] {
         open->click();
         QApplication::processEvents();
-    });
-    out() << QStringLiteral("TestSVG lists 1,000 text items: %1 ms\n").arg(list, 0, 'f', 1);
-    const double again = milliseconds([&] {
-        open->click();
-        QApplication::processEvents();
-    });
-    out() << QStringLiteral("TestSVG replaces 1,000 rows by 1,000 new ones: %1 ms\n").arg(again, 0, 'f', 1);
+    };
+    out() << BenchTiming::line(QStringLiteral("TestSVG lists 1,000 text items"), BenchTiming::once(openFile));
+    out() << BenchTiming::line(QStringLiteral("TestSVG replaces 1,000 rows by 1,000 new ones"),
+                               BenchTiming::once(openFile));
     return 0;
 }

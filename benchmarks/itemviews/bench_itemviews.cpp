@@ -1,6 +1,7 @@
 // Prints how fast the item-view dialogs open and how the toolkit's views cope with large data:
 // first open of each dialog, a dendrogram repaint, depth-first numbers of a big tree and a page
 // scroll of a big colour-coded table. Run with QT_QPA_PLATFORM=offscreen for comparable figures.
+#include "../BenchTiming.h"
 #include "TestDendrogramWidget.h"
 #include "TestDragAndDrop.h"
 #include "TestJoinsTable.h"
@@ -16,37 +17,31 @@
 #include <VNTableWidget.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QScrollBar>
-#include <algorithm>
-#include <cstdio>
+#include <QTextStream>
+
 #include <functional>
 #include <vector>
 
 namespace {
-double milliseconds(const QElapsedTimer& timer)
+QTextStream& out()
 {
-    return double(timer.nsecsElapsed()) / 1e6;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+    static QTextStream stream(stdout);
+    return stream;
 }
 
 // Construction, first show and the first paint, as a user waits for them.
-double firstOpen(const std::function<QDialog*()>& create)
+BenchTiming::Timing firstOpen(const std::function<QDialog*()>& create)
 {
-    QElapsedTimer timer;
-    timer.start();
-    QDialog* dialog = create();
-    dialog->show();
-    dialog->repaint();
-    QCoreApplication::processEvents();
-    const double elapsed = milliseconds(timer);
+    QDialog* dialog = nullptr;
+    const BenchTiming::Timing open = BenchTiming::once([&] {
+        dialog = create();
+        dialog->show();
+        dialog->repaint();
+        QCoreApplication::processEvents();
+    });
     delete dialog;
-    return elapsed;
+    return open;
 }
 
 void benchmarkFirstOpen()
@@ -60,16 +55,16 @@ void benchmarkFirstOpen()
         {"TestTreeItemDelegate", [] { return new TestTreeItemDelegate(nullptr); }},
         {"TestTreeWidget", [] { return new TestTreeWidget(nullptr); }},
     };
-    std::vector<double> times;
+    BenchTiming::Samples opens;
     for (const auto& entry : dialogs) {
-        const double time = firstOpen(entry.second);
-        times.push_back(time);
-        std::printf("first open %-22s %8.2f ms\n", entry.first, time);
+        const BenchTiming::Timing open = firstOpen(entry.second);
+        opens.add(open);
+        out() << BenchTiming::line(QStringLiteral("first open ") + QLatin1String(entry.first), open);
     }
-    std::printf("second open %-21s %8.2f ms\n", "TestDendrogramWidget",
-                firstOpen([] { return new TestDendrogramWidget(nullptr); }));
-    std::printf("first open median              %8.2f ms (limit 16), slowest %.2f ms (limit 50)\n", median(times),
-                *std::max_element(times.begin(), times.end()));
+    out() << BenchTiming::line(QStringLiteral("second open TestDendrogramWidget"),
+                               firstOpen([] { return new TestDendrogramWidget(nullptr); }));
+    out() << BenchTiming::line(QStringLiteral("first open of the item-view dialogs"), opens,
+                               QStringLiteral("limit 16 ms for the median, 50 ms for the worst"));
 }
 
 void benchmarkDendrogram()
@@ -92,14 +87,9 @@ void benchmarkDendrogram()
     dendrogram.resize(1400, 900);
     dendrogram.show();
     QCoreApplication::processEvents();
-    std::vector<double> times;
-    for (int run = 0; run < 20; ++run) {
-        QElapsedTimer timer;
-        timer.start();
-        dendrogram.viewport()->repaint();
-        times.push_back(milliseconds(timer));
-    }
-    std::printf("dendrogram 1000 rows, 50 columns, 5000 links: repaint median %.2f ms (limit 16)\n", median(times));
+    out() << BenchTiming::line(QStringLiteral("dendrogram repaint, 1000 rows, 50 columns, 5000 links"),
+                               BenchTiming::repeat(20, [&] { dendrogram.viewport()->repaint(); }),
+                               QStringLiteral("limit 16 ms"));
 }
 
 void benchmarkDFSIndexes()
@@ -116,13 +106,14 @@ void benchmarkDFSIndexes()
         topLevel.append(parent);
     }
     tree.addTopLevelItems(topLevel);
-    QElapsedTimer timer;
-    timer.start();
     long long sum = 0;
-    for (const QTreeWidgetItem* item : items)
-        sum += tree.getDFSIndex(item);
-    std::printf("getDFSIndex for all of %zu items: %.2f ms in total (limit 1000), checksum %lld\n", items.size(),
-                milliseconds(timer), sum);
+    const BenchTiming::Timing lookups = BenchTiming::once([&] {
+        for (const QTreeWidgetItem* item : items)
+            sum += tree.getDFSIndex(item);
+    });
+    out() << BenchTiming::line(
+        QStringLiteral("getDFSIndex for all of %1 items (checksum %2)").arg(items.size()).arg(sum), lookups,
+        QStringLiteral("limit 1000 ms"));
 }
 
 void benchmarkTableScroll()
@@ -146,17 +137,15 @@ void benchmarkTableScroll()
     table.resize(1200, 800);
     table.show();
     QCoreApplication::processEvents();
-    std::vector<double> times;
     QScrollBar* bar = table.verticalScrollBar();
-    for (int page = 0; page < 30; ++page) {
-        QElapsedTimer timer;
-        timer.start();
-        bar->setValue(bar->value() + bar->pageStep());
-        table.viewport()->repaint();
-        table.verticalHeader()->viewport()->repaint();
-        times.push_back(milliseconds(timer));
-    }
-    std::printf("table 10000 rows x 20 colour-coded columns: page scroll median %.2f ms (limit 16)\n", median(times));
+    out() << BenchTiming::line(QStringLiteral("table page scroll, 10000 rows x 20 colour-coded columns"),
+                               BenchTiming::repeat(30,
+                                                   [&] {
+                                                       bar->setValue(bar->value() + bar->pageStep());
+                                                       table.viewport()->repaint();
+                                                       table.verticalHeader()->viewport()->repaint();
+                                                   }),
+                               QStringLiteral("limit 16 ms"));
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 // Prints what the master-detail and assembly import trees cost: first open of each dialog, a
 // depth-first lookup of every page of a large stack, and filtering a large import tree per
 // keystroke. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_itemviews2
+#include "../BenchTiming.h"
 #include "TestMasterDetailTree.h"
 #include "TestNewAssemblyImport.h"
 
@@ -11,7 +12,6 @@
 #include <VNTreeView.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QTextStream>
@@ -19,14 +19,13 @@
 
 namespace {
 template<typename Dialog>
-double firstOpenMs()
+BenchTiming::Timing firstOpen()
 {
-    QElapsedTimer timer;
-    timer.start();
+    const BenchTiming::Stopwatch stopwatch;
     Dialog dialog(nullptr);
     dialog.show();
     QApplication::processEvents();
-    return timer.nsecsElapsed() / 1.0e6;
+    return stopwatch.elapsed();
 }
 
 void benchDfsLookup(QTextStream& out, int topLevel, int perTop)
@@ -41,13 +40,13 @@ void benchDfsLookup(QTextStream& out, int topLevel, int perTop)
             stack->addItem(new QWidget, top, -1)->setText(QStringLiteral("Sub Page %1").arg(j));
     }
     const int total = topLevel * (perTop + 1);
-    QElapsedTimer timer;
-    timer.start();
     int found = 0;
-    for (int i = 0; i < total; ++i)
-        found += stack->itemAtDFSIndex(i) != nullptr;
-    out << "itemAtDFSIndex for all " << total << " pages: " << timer.nsecsElapsed() / 1.0e6 << " ms (" << found
-        << " found)\n";
+    const BenchTiming::Timing lookups = BenchTiming::once([&] {
+        for (int i = 0; i < total; ++i)
+            found += stack->itemAtDFSIndex(i) != nullptr;
+    });
+    out << BenchTiming::line(QStringLiteral("itemAtDFSIndex for all %1 pages (%2 found)").arg(total).arg(found),
+                             lookups);
 }
 
 void benchFilter(QTextStream& out, int groups, int perGroup)
@@ -66,15 +65,13 @@ void benchFilter(QTextStream& out, int groups, int perGroup)
     QApplication::processEvents();
     const int rows = groups * (perGroup + 1);
     const QString typed = QStringLiteral("point 42");
-    double worst = 0;
-    for (int length = 1; length <= typed.size(); ++length) {
-        QElapsedTimer timer;
-        timer.start();
-        dialog.searchField()->setText(typed.left(length));
+    int length = 0;
+    const BenchTiming::Samples keystrokes = BenchTiming::repeat(typed.size(), [&] {
+        dialog.searchField()->setText(typed.left(++length));
         QApplication::processEvents();
-        worst = qMax(worst, timer.nsecsElapsed() / 1.0e6);
-    }
-    out << "filtering " << rows << " rows, worst keystroke of \"" << typed << "\": " << worst << " ms\n";
+    });
+    out << BenchTiming::line(QStringLiteral("filtering %1 rows, per keystroke of \"%2\"").arg(rows).arg(typed),
+                             keystrokes);
 }
 } // namespace
 
@@ -89,8 +86,8 @@ int main(int argc, char* argv[])
         warmUp.show();
         QApplication::processEvents();
     }
-    out << "first open TestMasterDetailTree: " << firstOpenMs<TestMasterDetailTree>() << " ms\n";
-    out << "first open TestNewAssemblyImport: " << firstOpenMs<TestNewAssemblyImport>() << " ms\n";
+    out << BenchTiming::line(QStringLiteral("first open TestMasterDetailTree"), firstOpen<TestMasterDetailTree>());
+    out << BenchTiming::line(QStringLiteral("first open TestNewAssemblyImport"), firstOpen<TestNewAssemblyImport>());
     benchDfsLookup(out, 1000, 9);
     benchFilter(out, 1000, 99);
     return 0;

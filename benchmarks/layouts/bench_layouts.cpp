@@ -1,6 +1,7 @@
 // Prints what the layout and composition dialogs cost: the first open of each dialog, the frame
 // times of a disclosure opening and of a flip, and one alignment by the layout helper over many
 // grids. Run it headless: QT_QPA_PLATFORM=offscreen ./bench_layouts
+#include "../BenchTiming.h"
 #include "TestDisclosure.h"
 #include "TestFlipWidget.h"
 #include "TestInfoArea.h"
@@ -14,82 +15,44 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTextStream>
 #include <QVariantAnimation>
 
-#include <algorithm>
-#include <ctime>
 #include <memory>
 
 namespace {
 constexpr int frameStep = 16;
 
-double ms(qint64 nanoseconds)
-{
-    return nanoseconds / 1.0e6;
-}
-
-double cpuMs(std::clock_t since)
-{
-    return (std::clock() - since) * 1000.0 / CLOCKS_PER_SEC;
-}
-
-// Wall time and the process's CPU time: on a busy machine the wall time also counts other
-// processes, the CPU time only this one.
 template<typename Dialog>
-QString firstOpen()
+QString firstOpen(const char* name)
 {
-    QElapsedTimer timer;
-    timer.start();
-    const std::clock_t cpu = std::clock();
-    auto dialog = std::make_unique<Dialog>(nullptr);
-    dialog->show();
-    QApplication::processEvents();
-    return QStringLiteral("%1 ms wall, %2 ms CPU").arg(ms(timer.nsecsElapsed()), 0, 'f', 2).arg(cpuMs(cpu), 0, 'f', 2);
+    std::unique_ptr<Dialog> dialog;
+    const BenchTiming::Timing open = BenchTiming::once([&] {
+        dialog = std::make_unique<Dialog>(nullptr);
+        dialog->show();
+        QApplication::processEvents();
+    });
+    return BenchTiming::line(QStringLiteral("  ") + QLatin1String(name), open);
 }
-
-struct Frames
-{
-    double worst = 0.0;
-    double worstCpu = 0.0;
-    double mean = 0.0;
-    int count = 0;
-};
 
 // Steps the animation as a 60 Hz display would and times each frame until the window is painted.
-Frames stepFrames(QAbstractAnimation* animation, QWidget* window)
+BenchTiming::Samples stepFrames(QAbstractAnimation* animation, QWidget* window)
 {
-    Frames frames;
-    double total = 0.0;
-    QElapsedTimer timer;
+    BenchTiming::Samples frames;
     for (int time = frameStep; animation->state() == QAbstractAnimation::Running; time += frameStep) {
-        timer.start();
-        const std::clock_t cpu = std::clock();
-        animation->setCurrentTime(qMin(time, animation->duration()));
-        QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-        window->repaint();
-        const double frame = ms(timer.nsecsElapsed());
-        frames.worst = std::max(frames.worst, frame);
-        frames.worstCpu = std::max(frames.worstCpu, cpuMs(cpu));
-        total += frame;
-        ++frames.count;
+        frames.add(BenchTiming::once([&] {
+            animation->setCurrentTime(qMin(time, animation->duration()));
+            QApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+            window->repaint();
+        }));
     }
-    frames.mean = frames.count ? total / frames.count : 0.0;
     return frames;
 }
 
-void printFrames(QTextStream& out, const char* what, const Frames& frames)
-{
-    out << what << ": " << frames.count << " frames, worst " << QString::number(frames.worst, 'f', 2) << " ms wall ("
-        << QString::number(frames.worstCpu, 'f', 2) << " ms CPU), mean " << QString::number(frames.mean, 'f', 2)
-        << " ms (budget 16 ms)\n";
-}
-
-Frames disclosureFrames()
+BenchTiming::Samples disclosureFrames()
 {
     TestDisclosure dialog(nullptr);
     dialog.show();
@@ -101,7 +64,7 @@ Frames disclosureFrames()
     return stepFrames(disclosure->animation(), &dialog);
 }
 
-Frames flipFrames()
+BenchTiming::Samples flipFrames()
 {
     TestFlipWidget dialog(nullptr);
     dialog.resize(400, 300);
@@ -111,8 +74,8 @@ Frames flipFrames()
     return stepFrames(dialog.flipWidget()->animation(), &dialog);
 }
 
-// Returns the median of repeated alignments; the first, which widens the columns, in first.
-double helperAlignment(int grids, int rows, double& first, double& firstCpu)
+// Prints the first alignment, which widens the columns, and then the repeated ones.
+void helperAlignment(QTextStream& out, int grids, int rows)
 {
     QWidget form;
     auto* outer = new QVBoxLayout(&form);
@@ -132,21 +95,12 @@ double helperAlignment(int grids, int rows, double& first, double& firstCpu)
     VNLayoutHelper helper(&form);
     for (QGridLayout* layout : layouts)
         helper.addLayout(layout, nullptr);
-    QVector<double> runs;
-    QElapsedTimer timer;
-    timer.start();
-    const std::clock_t cpu = std::clock();
-    helper.help();
-    first = ms(timer.nsecsElapsed());
-    firstCpu = cpuMs(cpu);
-    for (int run = 0; run < 7; ++run) {
-        timer.start();
-        helper.help();
-        runs.append(ms(timer.nsecsElapsed()));
-    }
-    std::sort(runs.begin(), runs.end());
-    return runs.at(runs.size() / 2);
+    const QString what = QStringLiteral("VNLayoutHelper::help() over %1 grids of %2 rows").arg(grids).arg(rows);
+    out << BenchTiming::line(what + QStringLiteral(", first"), BenchTiming::once([&] { helper.help(); }));
+    out << BenchTiming::line(what + QStringLiteral(", then"), BenchTiming::repeat(7, [&] { helper.help(); }),
+                             QStringLiteral("budget 5 ms"));
 }
+
 // Opens and closes a small dialog first, so that the figures leave out what the first window of
 // a process pays once (fonts, style sheet parsing, platform set-up).
 void warmUp()
@@ -177,19 +131,15 @@ int main(int argc, char** argv)
     warmUp();
 
     out << "First open (budget 50 ms):\n";
-    out << "  TestDisclosure    " << firstOpen<TestDisclosure>() << "\n";
-    out << "  TestFlipWidget    " << firstOpen<TestFlipWidget>() << "\n";
-    out << "  TestInfoArea      " << firstOpen<TestInfoArea>() << "\n";
-    out << "  TestLayoutExample " << firstOpen<TestLayoutExample>() << "\n";
-    out << "  TestLayoutHelper  " << firstOpen<TestLayoutHelper>() << "\n";
+    out << firstOpen<TestDisclosure>("TestDisclosure");
+    out << firstOpen<TestFlipWidget>("TestFlipWidget");
+    out << firstOpen<TestInfoArea>("TestInfoArea");
+    out << firstOpen<TestLayoutExample>("TestLayoutExample");
+    out << firstOpen<TestLayoutHelper>("TestLayoutHelper");
 
-    printFrames(out, "Disclosure opening", disclosureFrames());
-    printFrames(out, "Flip", flipFrames());
-    double first = 0.0;
-    double firstCpu = 0.0;
-    const double median = helperAlignment(50, 20, first, firstCpu);
-    out << "VNLayoutHelper::help() over 50 grids of 20 rows: first " << QString::number(first, 'f', 2) << " ms wall ("
-        << QString::number(firstCpu, 'f', 2) << " ms CPU), then median " << QString::number(median, 'f', 2)
-        << " ms (budget 5 ms)\n";
+    const QString frameBudget = QStringLiteral("budget 16 ms");
+    out << BenchTiming::line(QStringLiteral("Disclosure opening, per frame"), disclosureFrames(), frameBudget);
+    out << BenchTiming::line(QStringLiteral("Flip, per frame"), flipFrames(), frameBudget);
+    helperAlignment(out, 50, 20);
     return 0;
 }
