@@ -1,13 +1,18 @@
-#include <VNAnimatedTabBar.h>
+#include <VNAnimatedOPTabBar.h>
 #include <VNBarChart.h>
+#include <VNButton.h>
+#include <VNCheckBox.h>
 #include <VNComboBox.h>
 #include <VNCustomHeaderView.h>
+#include <VNDoubleSpinBox.h>
 #include <VNElementNavigationBar.h>
 #include <VNItemDataRoles.h>
 #include <VNItemDelegate.h>
 #include <VNListWidget.h>
 #include <VNMultiProgressBar.h>
 #include <VNProgressiveDisclosureBtn.h>
+#include <VNRadioButton.h>
+#include <VNResultSwitcher.h>
 #include <VNSlider.h>
 #include <VNSlidingCheckBox.h>
 #include <VNStatusPalette.h>
@@ -20,6 +25,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMetaEnum>
 #include <QPainter>
@@ -27,6 +33,7 @@
 #include <QStandardItemModel>
 #include <QTabBar>
 #include <QTest>
+#include <QToolButton>
 
 #include <functional>
 #include <memory>
@@ -84,7 +91,7 @@ Painted edgesOf(const QImage& image, const QRect& area, bool filled, bool enable
     return {image,
             enabled,
             QRect(area.left(), middle, area.width(), 1),
-            filled ? QRect(area.right() - 4, middle, 1, 1) : QRect(),
+            filled ? QRect(area.left() + 6, middle, area.width() - 12, 1) : QRect(),
             QRect(area.left(), middle - 2, 5, 4),
             QRect(area.left(), area.top(), area.width(), 3),
             QRect()};
@@ -109,9 +116,10 @@ W* sized(W* widget, int width, int height, bool enabled = true)
     return widget;
 }
 
+template<typename Bar>
 Painted animatedTab(Flags flags, bool enabled)
 {
-    VNAnimatedTabBar bar;
+    Bar bar;
     bar.addTab(QStringLiteral("A"));
     bar.addTab(QStringLiteral("B"));
     sized(&bar, 300, 30, enabled)->setWidgetStatus(1, flags);
@@ -169,6 +177,17 @@ Painted popupItem(Flags flags)
     return {image, true, {}, {}, {}, {}, QRect(item.left() + 1, item.center().y() - 1, 4, 2)};
 }
 
+// The switcher's buttons take the status one by one.
+Painted resultButton(Flags flags)
+{
+    VNResultSwitcher switcher;
+    switcher.insertButton(QIcon(), QStringLiteral("A"), -1, 0);
+    QToolButton* button = switcher.insertButton(QIcon(), QStringLiteral("B"), -1, 1);
+    sized(&switcher, 120, 40)->setItemWidgetStatus(1, flags);
+    switcher.layout()->activate();
+    return edgesOf(switcher.grab().toImage(), button->geometry(), true);
+}
+
 QWidget* tabWidget()
 {
     auto* tabs = sized(new VNTabWidget, 200, 80);
@@ -188,6 +207,12 @@ const QList<QPair<const char*, Paint>> families = {
     {"line edit", [](Flags f) { return onEdges(sized(new QLineEdit(QStringLiteral("42")), 120, 26), f, true); }},
     {"line edit, disabled",
      [](Flags f) { return onEdges(sized(new QLineEdit(QStringLiteral("42")), 120, 26, false), f, true); }},
+    {"spin box", [](Flags f) { return onEdges(sized(new VNDoubleSpinBox, 120, 26), f, true); }},
+    {"combo box", [](Flags f) { return onEdges(sized(new VNComboBox, 120, 26), f, true); }},
+    {"check box", [](Flags f) { return onEdges(sized(new VNCheckBox(QStringLiteral("On")), 120, 26), f, true); }},
+    {"radio button", [](Flags f) { return onEdges(sized(new VNRadioButton(QStringLiteral("On")), 120, 26), f, true); }},
+    {"tool button", [](Flags f) { return onEdges(sized(new VNButton, 120, 26), f, true); }},
+    {"result switcher button", resultButton},
     {"push button", [](Flags f) { return onEdges(sized(new QPushButton(QStringLiteral("Go")), 120, 26), f, true); }},
     {"twin push button", [](Flags f) { return onEdges(sized(new VNTwinPushButton, 200, 26), f, true); }},
     {"sliding check box",
@@ -201,8 +226,9 @@ const QList<QPair<const char*, Paint>> families = {
     {"view switcher", [](Flags f) { return onEdges(sized(new VNViewSwitcher, 200, 40), f, false); }},
     {"tab widget pane", [](Flags f) { return onEdges(tabWidget(), f, false, paneOf); }},
     {"list widget", [](Flags f) { return onEdges(sized(new VNListWidget, 200, 80), f, false); }},
-    {"animated tab", [](Flags f) { return animatedTab(f, true); }},
-    {"animated tab, disabled", [](Flags f) { return animatedTab(f, false); }},
+    {"animated tab", [](Flags f) { return animatedTab<VNAnimatedTabBar>(f, true); }},
+    {"animated tab, disabled", [](Flags f) { return animatedTab<VNAnimatedTabBar>(f, false); }},
+    {"animated OP tab", [](Flags f) { return animatedTab<VNAnimatedOPTabBar>(f, true); }},
     {"header section", headerSection},
     {"item cell", [](Flags f) { return itemCell(f, true); }},
     {"item cell, inactive", [](Flags f) { return itemCell(f, false); }},

@@ -113,21 +113,18 @@ double relativeLuminance(const QColor& color)
 VNStatusPalette::StatusLook VNStatusPalette::statusLook(VNWidgetStatus::StatusFlags flags)
 {
     StatusLook result;
-    if (const Rule<Look>* rule = firstMatch(lookRules, flags))
-        result.look = rule->look;
-    if (const Rule<SigmaLook>* rule = firstMatch(sigmaRules, flags))
-        result.sigma = rule->look;
     result.compare = flags.testFlag(VNWidgetStatus::compareDifferent);
+    if (result.compare)
+        result.dominant = VNWidgetStatus::compareDifferent;
+    if (const Rule<SigmaLook>* rule = firstMatch(sigmaRules, flags)) {
+        result.sigma = rule->look;
+        result.dominant = rule->bits;
+    }
+    if (const Rule<Look>* rule = firstMatch(lookRules, flags)) {
+        result.look = rule->look;
+        result.dominant = rule->bits;
+    }
     return result;
-}
-
-VNWidgetStatus::Status VNStatusPalette::dominantStatus(VNWidgetStatus::StatusFlags flags)
-{
-    if (const Rule<Look>* rule = firstMatch(lookRules, flags))
-        return rule->bits;
-    if (const Rule<SigmaLook>* rule = firstMatch(sigmaRules, flags))
-        return rule->bits;
-    return flags.testFlag(VNWidgetStatus::compareDifferent) ? VNWidgetStatus::compareDifferent : VNWidgetStatus::undef;
 }
 
 QString VNStatusPalette::name(Look look)

@@ -50,7 +50,7 @@ VNWidgetStatus::StatusFlags VNWidgetStatus::setFlag(StatusFlags flags, StatusFla
 
 VNWidgetStatus::Status VNWidgetStatus::getDominantStatusFromFlag(StatusFlags flags)
 {
-    return VNStatusPalette::dominantStatus(flags);
+    return VNStatusPalette::statusLook(flags).dominant;
 }
 
 QString VNWidgetStatus::lookName(StatusFlags flags)
