@@ -220,6 +220,7 @@ void WidgetStatusTest::decision_data()
         {"standard over user edit", 0x3002, "standardDefined", "none", 0x2000},
         {"standard over compare", 0x3800, "standardDefined", "none", 0x2000},
         {"sigma error over active", 0x340, "undef", "invalid", 0x200},
+        {"sigma over compare", 0x840, "undef", "available", 0x40},
         {"sigma standard changed over active", 0x101C0, "standardChanged", "standardChanged", 0x10000},
         {"compare alone", 0x800, "undef", "none", 0x800},
     };
