@@ -1,19 +1,17 @@
 #include "ExpectedStatusLook.h"
 
-#include <VNStatusPainter_p.h>
-
-namespace {
-// The colour of the compare-differs frame that the toolkit's painters draw over every look.
-const QColor compareDiffersColor(0xe0, 0x12, 0x9a);
-} // namespace
+#include <VNStatusPalette.h>
 
 ExpectedStatusLook ExpectedStatusLook::of(VNWidgetStatus::StatusFlags flags)
 {
+    const VNStatusPalette::StatusLook word = VNStatusPalette::statusLook(flags);
+    const VNStatusPalette::Colors colors = VNStatusPalette::colors(word.look);
     ExpectedStatusLook look;
-    look.frame = VNStatusPainter::frameColor(flags);
-    look.fill = VNStatusPainter::fillColor(flags);
-    look.sigma = VNStatusPainter::sigmaColor(flags);
-    if (flags.testFlag(VNWidgetStatus::compareDifferent))
-        look.compare = compareDiffersColor;
+    look.frame = colors.frame;
+    look.fill = colors.fill;
+    look.text = colors.text;
+    look.sigma = VNStatusPalette::sigmaColor(word.sigma);
+    if (word.compare)
+        look.compare = VNStatusPalette::compareColor();
     return look;
 }

@@ -2,6 +2,7 @@
 
 #include <VNAnimatedOPTabBar.h>
 #include <VNAnimatedTabBar.h>
+#include <VNStatusPalette.h>
 #include <VNTabBar.h>
 
 #include <QApplication>
@@ -242,7 +243,7 @@ void TestAnimatedTabBar::statusAndDarkStyleArePainted()
     const QPoint probe = bar.tabRect(1).topLeft() + QPoint(4, 6);
     const QColor plain = bar.grab().toImage().pixelColor(probe);
     bar.setWidgetStatus(1, VNWidgetStatus::needInput);
-    QCOMPARE(bar.grab().toImage().pixelColor(probe), QColor(0xff, 0xd6, 0xd6));
+    QCOMPARE(bar.grab().toImage().pixelColor(probe), VNStatusPalette::colors(VNStatusPalette::Look::needInput).fill);
     bar.setWidgetStatus(1, VNWidgetStatus::undef);
     QCOMPARE(bar.grab().toImage().pixelColor(probe), plain);
     bar.setDarkStyle(1, true);

@@ -8,6 +8,7 @@
 #include <VNFilterComboBox.h>
 #include <VNFormatter.h>
 #include <VNGroupableComboBox.h>
+#include <VNStatusPalette.h>
 #include <VNValueEdit.h>
 
 #include <QAbstractItemView>
@@ -210,9 +211,12 @@ void ComboBoxTest::statusBarInPopup()
     const QRect missing = view->visualRect(view->model()->index(1, 0));
     const QRect changed = view->visualRect(view->model()->index(2, 0));
     // The frame colours of the style's need-input and standard-changed looks.
-    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()), QColor(0xd3, 0x2f, 0x2f));
-    QCOMPARE(image.pixelColor(changed.left() + 2, changed.center().y()), QColor(0xe0, 0x7b, 0x00));
-    QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) != QColor(0xd3, 0x2f, 0x2f));
+    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()),
+             VNStatusPalette::markColor(VNWidgetStatus::needInput));
+    QCOMPARE(image.pixelColor(changed.left() + 2, changed.center().y()),
+             VNStatusPalette::markColor(VNWidgetStatus::standardChanged));
+    QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) !=
+            VNStatusPalette::markColor(VNWidgetStatus::needInput));
     combo.hidePopup();
 }
 

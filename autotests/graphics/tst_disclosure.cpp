@@ -5,6 +5,7 @@
 #include <VNProgressiveDisclosureBtn.h>
 #include <VNProgressiveDisclosureGroup.h>
 #include <VNResizeableDisclosure.h>
+#include <VNStatusPalette.h>
 #include <VNStyleSheet.h>
 
 #include <QApplication>
@@ -198,9 +199,10 @@ void DisclosureTest::statusShowsOnHead_data()
 {
     QTest::addColumn<int>("status");
     QTest::addColumn<QColor>("background");
-    QTest::newRow("needInput") << 0x20 << QColor(0xff, 0xd6, 0xd6);
-    QTest::newRow("userEdit") << 0x2 << QColor(0xdc, 0xeb, 0xff);
-    QTest::newRow("different") << 0x400 << QColor(0xff, 0xf1, 0xb8);
+    using Look = VNStatusPalette::Look;
+    QTest::newRow("needInput") << int(VNWidgetStatus::needInput) << VNStatusPalette::colors(Look::needInput).fill;
+    QTest::newRow("userEdit") << int(VNWidgetStatus::userEdit) << VNStatusPalette::colors(Look::userEdit).fill;
+    QTest::newRow("different") << int(VNWidgetStatus::different) << VNStatusPalette::colors(Look::different).fill;
 }
 
 void DisclosureTest::statusShowsOnHead()

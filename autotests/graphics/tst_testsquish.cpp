@@ -184,7 +184,7 @@ void TestSquishTest::familySpotChecks()
     QVERIFY(!bars.isEmpty());
     for (VNAnimatedTabBar* bar : bars) {
         QVERIFY(bar->count() > 1);
-        QCOMPARE(int(bar->widgetStatus(0)), int(VNWidgetStatus::standardLocked));
+        QCOMPARE(int(bar->widgetStatus(0)), int(VNWidgetStatus::standardChangedLocked));
         QCOMPARE(int(bar->widgetStatus(bar->count() - 1)), 0x33000);
         // On the light status fill even dark tabs write dark text.
         QVERIFY(anyPixel(bar->grab().toImage(), [](const QColor& pixel) { return qGray(pixel.rgb()) < 90; }));

@@ -6,6 +6,7 @@
 #include <VNDragTreeWidget.h>
 #include <VNItemDataRoles.h>
 #include <VNItemDelegate.h>
+#include <VNStatusPalette.h>
 #include <VNTreeView.h>
 
 #include <QApplication>
@@ -15,8 +16,8 @@
 #include <QTest>
 
 namespace {
-const QColor userEditBlue(0x3d, 0x7c, 0xc9);
-const QColor needInputRed(0xd3, 0x2f, 0x2f);
+const QColor userEditBlue = VNStatusPalette::markColor(VNWidgetStatus::userEdit);
+const QColor needInputRed = VNStatusPalette::markColor(VNWidgetStatus::needInput);
 
 int countPixels(const QImage& image, const QRect& area, const QColor& color)
 {
@@ -314,7 +315,7 @@ void TestItemViewToolkit::delegateDrawsStatusAndTreeLines()
     const QImage image = view.viewport()->grab().toImage();
     const QRect statusRow = view.visualRect(model.index(0, 0));
     QVERIFY(countPixels(image, statusRow, needInputRed) >= statusRow.height());
-    QVERIFY(countPixels(image, statusRow, QColor(0xff, 0xd6, 0xd6)) > 100);
+    QVERIFY(countPixels(image, statusRow, VNStatusPalette::colors(VNStatusPalette::Look::needInput).fill) > 100);
     const QRect lineRow = view.visualRect(model.index(1, 0));
     const QColor lineColor(0x9a, 0xa4, 0xb0);
     // Nested: the outer line runs through and the inner line starts one step further right.

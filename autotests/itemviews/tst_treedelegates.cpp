@@ -9,6 +9,7 @@
 #include <VNMenuButtonDelegate.h>
 #include <VNMultiPushButtonDelegate.h>
 #include <VNPushButtonDelegate.h>
+#include <VNStatusPalette.h>
 #include <VNToolTipButtonDelegate.h>
 #include <VNTwinPushButtonDelegate.h>
 
@@ -202,15 +203,18 @@ private slots:
     {
         const int row = rowOf(m_tree, QStringLiteral("VNItemDelegate"));
         const QRect cell = shownCell(m_tree, row, 1);
-        QVERIFY(!cellContains(m_tree, cell, qRgb(0xff, 0xd6, 0xd6)));
+        QVERIFY(!cellContains(m_tree, cell, VNStatusPalette::colors(VNStatusPalette::Look::needInput).fill.rgb()));
         child<QCheckBox>(m_dialog, QStringLiteral("m_needInput"))->setChecked(true);
-        QVERIFY(cellContains(m_tree, cell, qRgb(0xff, 0xd6, 0xd6)));
-        QVERIFY(!cellContains(m_tree, VNItemDelegate::sigmaRect(cell), qRgb(0x6a, 0x3d, 0xb8)));
+        QVERIFY(cellContains(m_tree, cell, VNStatusPalette::colors(VNStatusPalette::Look::needInput).fill.rgb()));
+        QVERIFY(!cellContains(m_tree, VNItemDelegate::sigmaRect(cell),
+                              VNStatusPalette::sigmaColor(VNStatusPalette::SigmaLook::available).rgb()));
         child<QCheckBox>(m_dialog, QStringLiteral("m_sigmaAvailable"))->setChecked(true);
-        QVERIFY(cellContains(m_tree, VNItemDelegate::sigmaRect(cell), qRgb(0x6a, 0x3d, 0xb8)));
+        QVERIFY(cellContains(m_tree, VNItemDelegate::sigmaRect(cell),
+                             VNStatusPalette::sigmaColor(VNStatusPalette::SigmaLook::available).rgb()));
         // A button cell shows the status bit's mark too.
         const int buttons = rowOf(m_tree, QStringLiteral("VNPushButtonDelegate"));
-        QVERIFY(cellContains(m_tree, shownCell(m_tree, buttons, 1), qRgb(0xd3, 0x2f, 0x2f)));
+        QVERIFY(cellContains(m_tree, shownCell(m_tree, buttons, 1),
+                             VNStatusPalette::markColor(VNWidgetStatus::needInput).rgb()));
     }
 
     // Each status bit leaves its own mark in the cell's top right corner, on its own.
@@ -218,13 +222,14 @@ private slots:
     {
         QTest::addColumn<int>("bits");
         QTest::addColumn<QRgb>("colour");
-        QTest::newRow("user edited") << 0x2 << qRgb(0x3d, 0x7c, 0xc9);
-        QTest::newRow("need input") << 0x20 << qRgb(0xd3, 0x2f, 0x2f);
-        QTest::newRow("different") << 0x400 << qRgb(0xc9, 0xa4, 0x00);
-        QTest::newRow("compare differs") << 0x800 << qRgb(0xc0, 0x1c, 0xa8);
-        QTest::newRow("standard enabled") << 0x3000 << qRgb(0x4c, 0x9a, 0x4c);
-        QTest::newRow("deviate") << 0x10000 << qRgb(0xe0, 0x7b, 0x00);
-        QTest::newRow("locked") << 0x20000 << qRgb(0x55, 0x55, 0x55);
+        QTest::newRow("user edited") << 0x2 << VNStatusPalette::markColor(VNWidgetStatus::userEdit).rgb();
+        QTest::newRow("need input") << 0x20 << VNStatusPalette::markColor(VNWidgetStatus::needInput).rgb();
+        QTest::newRow("different") << 0x400 << VNStatusPalette::markColor(VNWidgetStatus::different).rgb();
+        QTest::newRow("compare differs") << 0x800 << VNStatusPalette::compareColor().rgb();
+        QTest::newRow("standard enabled")
+            << 0x3000 << VNStatusPalette::markColor(VNWidgetStatus::standardDefined).rgb();
+        QTest::newRow("deviate") << 0x10000 << VNStatusPalette::markColor(VNWidgetStatus::standardChanged).rgb();
+        QTest::newRow("locked") << 0x20000 << VNStatusPalette::markColor(VNWidgetStatus::standardLocked).rgb();
     }
     void everyStatusBitIsMarked()
     {

@@ -1,5 +1,6 @@
 #include "VNDoubleSpinBox.h"
 #include "VNFormatter.h"
+#include "VNStatusPalette.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -489,9 +490,9 @@ void TestVNDoubleSpinBox::sigmaMarkerIsPainted()
     const QImage active = field.grab().toImage();
     QVERIFY(plain != available);
     QVERIFY(available != active);
-    // The active marker fills its box with the sigma blue.
+    // The active marker fills its box with the colour of the sigma bar on the field's edge.
     const QPoint inMarker = editOf(&field)->geometry().topLeft() + QPoint(3, 4);
-    QCOMPARE(active.pixelColor(inMarker), QColor(0x1f, 0x5f, 0xbf));
+    QCOMPARE(active.pixelColor(inMarker), VNStatusPalette::sigmaColor(VNStatusPalette::SigmaLook::active));
     field.setSigmaEnabled(false);
     field.setSigmaActive(false);
     QCOMPARE(editOf(&field)->textMargins().left(), 0);

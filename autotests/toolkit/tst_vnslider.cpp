@@ -71,8 +71,6 @@ private slots:
     void brushColourRecoloursOwnMarkers();
     void verticalMarkersRunBottomUp();
     void gaussianCurveDrawsOverGroove();
-    void statusWordFramesSlider_data();
-    void statusWordFramesSlider();
 };
 
 void VNSliderTest::zoneColours_data()
@@ -273,51 +271,3 @@ void VNSliderTest::gaussianCurveDrawsOverGroove()
 
 QTEST_MAIN(VNSliderTest)
 #include "tst_vnslider.moc"
-
-void VNSliderTest::statusWordFramesSlider_data()
-{
-    QTest::addColumn<int>("word");
-    QTest::addColumn<QColor>("leftEdge");
-    QTest::addColumn<QColor>("topEdge");
-    const QColor magenta(0xe0, 0x12, 0x9a);
-    QTest::newRow("needInput") << 0x20 << red << red;
-    QTest::newRow("standardDefined") << 0x3000 << QColor(0x4c, 0x9a, 0x4c) << QColor(0x4c, 0x9a, 0x4c);
-    QTest::newRow("standardDefaultChanged") << 0xF000 << QColor(0x9b, 0x4f, 0xb0) << QColor(0x9b, 0x4f, 0xb0);
-    QTest::newRow("sigmaInvalid bar") << 0x340 << QColor(0xc2, 0x18, 0x5b) << QColor();
-    QTest::newRow("compareDifferent over userEdit") << 0x802 << magenta << magenta;
-}
-
-// A status stored as the widgets' dynamic property (as the status gallery does) frames the
-// slider; without a status nothing is drawn at its edges.
-void VNSliderTest::statusWordFramesSlider()
-{
-    QFETCH(int, word);
-    QFETCH(QColor, leftEdge);
-    QFETCH(QColor, topEdge);
-    VNSlider slider(Qt::Horizontal);
-    makeSigmaSlider(slider);
-    const QImage plain = slider.grab().toImage();
-    VNWidgetStatus::setStatusProperty(&slider, VNWidgetStatus::StatusFlags(QFlag(word)));
-    const QImage framed = slider.grab().toImage();
-    // Dashed frames have gaps: look for the colour along each edge.
-    const auto leftHas = [](const QImage& image, const QColor& colour) {
-        for (int y = 2; y < image.height() - 2; ++y) {
-            if (image.pixelColor(1, y) == colour)
-                return true;
-        }
-        return false;
-    };
-    const auto topHas = [](const QImage& image, const QColor& colour) {
-        for (int x = 10; x < 60; ++x) {
-            if (image.pixelColor(x, 1) == colour)
-                return true;
-        }
-        return false;
-    };
-    QVERIFY(leftHas(framed, leftEdge));
-    QVERIFY(!leftHas(plain, leftEdge));
-    if (topEdge.isValid())
-        QVERIFY(topHas(framed, topEdge));
-    VNWidgetStatus::setStatusProperty(&slider, VNWidgetStatus::StatusFlags());
-    QCOMPARE(slider.grab().toImage(), plain);
-}

@@ -402,14 +402,15 @@ VNAnimatedTabBar::TabLook VNAnimatedTabBar::tabLook(int index) const
         look.fill = index == m_current ? darkTabColor.lighter(130) : darkTabColor;
         look.text = Qt::white;
     }
-    const QColor statusFrame = VNStatusPainter::frameColor(tab.status);
-    if (statusFrame.isValid()) {
-        look.fill = VNStatusPainter::fillColor(tab.status);
-        look.frame = statusFrame;
-        look.text = statusFrame.darker(150); // a dark tab takes the light status fill, so dark text too
-    }
-    if (!isEnabled())
+    // A dark tab takes the light status fill, so the status text too.
+    const VNStatusPalette::Colors status = VNStatusPalette::colors(tab.status, isEnabled());
+    if (status.isValid()) {
+        look.fill = status.fill;
+        look.frame = status.frame;
+        look.text = status.text;
+    } else if (!isEnabled()) {
         look.text = palette().color(QPalette::Disabled, QPalette::WindowText);
+    }
     return look;
 }
 

@@ -1,5 +1,7 @@
 #include "VNBarChart.h"
 
+#include "VNStatusPainter_p.h"
+
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -116,4 +118,6 @@ void VNBarChart::paintEvent(QPaintEvent*)
     }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(axisX - 1, top, axisX - 1, bottom);
+    // A status word arrives as the dynamic property of plain widgets; it frames the whole chart.
+    VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
 }

@@ -7,7 +7,8 @@
 #include <QWidget>
 
 // A horizontal bar chart under a header: one labelled, coloured bar per value, the value written
-// behind the bar. Bars are scaled to the largest value.
+// behind the bar. Bars are scaled to the largest value. A status word stored with
+// VNWidgetStatus::setStatusProperty() frames it in the status look.
 class VNWIDGETS_EXPORT VNBarChart : public QWidget
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 #include "VNComboBox.h"
 
 #include "VNComboBoxPopupDelegate_p.h"
+#include "VNStatusPalette.h"
 
 #include <QAbstractItemView>
 #include <QPainter>
@@ -46,7 +47,7 @@ void VNComboBoxPopupDelegate::paint(QPainter* painter, const QStyleOptionViewIte
     shifted.rect.adjust(statusBarWidth + 2, 0, 0, 0);
     QStyledItemDelegate::paint(painter, shifted, index);
     const QColor color =
-        VNComboBox::statusColor(VNWidgetStatus::StatusFlags(index.data(VNComboBox::WidgetStatusRole).toInt()));
+        VNStatusPalette::markColor(VNWidgetStatus::StatusFlags(index.data(VNComboBox::WidgetStatusRole).toInt()));
     if (color.isValid())
         painter->fillRect(
             QRect(option.rect.left() + 1, option.rect.top() + 2, statusBarWidth, option.rect.height() - 4), color);
@@ -116,35 +117,6 @@ void VNComboBox::takeStatusOfCurrent()
     const VNWidgetStatus::StatusFlags status = currentIndex() < 0 ? m_ownStatus : getWidgetStatusOfCurrent();
     setWidgetStatus(status);
     VNWidgetStatus::setStatusProperty(this, status);
-}
-
-// The frame colours of the status looks in the toolkit style, so an item's bar matches the look
-// the box takes when that item becomes current.
-QColor VNComboBox::statusColor(VNWidgetStatus::StatusFlags status)
-{
-    switch (VNWidgetStatus::getDominantStatusFromFlag(status)) {
-    case VNWidgetStatus::needInput:
-        return QColor(0xd3, 0x2f, 0x2f);
-    case VNWidgetStatus::compareDifferent:
-        return QColor(0xe0, 0x12, 0x9a);
-    case VNWidgetStatus::different:
-        return QColor(0xc9, 0xa4, 0x00);
-    case VNWidgetStatus::standardDeviate:
-        return QColor(0xe0, 0x7b, 0x00);
-    case VNWidgetStatus::standardLocked:
-        return QColor(0x7a, 0x7a, 0x7a);
-    case VNWidgetStatus::standardDefined:
-    case VNWidgetStatus::standardEnabled:
-    case VNWidgetStatus::standardDefault:
-    case VNWidgetStatus::standardDefaultChanged:
-        return QColor(0x4c, 0x9a, 0x4c);
-    case VNWidgetStatus::userEdit:
-        return QColor(0x3d, 0x7c, 0xc9);
-    case VNWidgetStatus::undef:
-        return QColor();
-    default:
-        return QColor(0x75, 0x75, 0x75);
-    }
 }
 
 QSize VNComboBox::sizeHint() const

@@ -43,9 +43,6 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    // The colour that stands for a status in item bars; invalid for a status without one.
-    static QColor statusColor(VNWidgetStatus::StatusFlags status);
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -1,7 +1,7 @@
 #include "VNCustomHeaderView.h"
 
 #include "VNItemDataRoles.h"
-#include "VNStatusColors_p.h"
+#include "VNStatusPalette.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QHelpEvent>
@@ -17,7 +17,6 @@ const int toolTipButtonSize = 14;
 const QColor selectedFill(0xcf, 0xe2, 0xf7);
 const QColor selectedLine(0x3d, 0x7c, 0xc9);
 const QColor mutedText(0x6e, 0x6e, 0x6e);
-const QColor compareFrame(0xc0, 0x1c, 0xa8);
 } // namespace
 
 VNCustomHeaderView::VNCustomHeaderView(Qt::Orientation orientation, QSize sectionPadding, QWidget* parent)
@@ -205,14 +204,14 @@ void VNCustomHeaderView::paintSection(QPainter* painter, const QRect& rect, int 
 
 void VNCustomHeaderView::paintStatusBand(QPainter* painter, const QRect& rect, int status) const
 {
-    const VNStatusColors colors = vnStatusColors(VNWidgetStatus::StatusFlags(status));
-    if (!colors.isValid())
+    const QColor color = VNStatusPalette::markColor(VNWidgetStatus::StatusFlags(status));
+    if (!color.isValid())
         return;
     if (orientation() == Qt::Horizontal)
         painter->fillRect(QRect(rect.left() + 1, rect.bottom() - statusBandWidth, rect.width() - 2, statusBandWidth),
-                          colors.frame);
+                          color);
     else
-        painter->fillRect(QRect(rect.left(), rect.top() + 1, statusBandWidth, rect.height() - 2), colors.frame);
+        painter->fillRect(QRect(rect.left(), rect.top() + 1, statusBandWidth, rect.height() - 2), color);
 }
 
 void VNCustomHeaderView::paintTitle(QPainter* painter, const QRect& rect, int logicalIndex, bool muted) const
@@ -290,7 +289,7 @@ void VNCustomHeaderView::paintEvent(QPaintEvent* event)
     if (!m_compareDifferent)
         return;
     QPainter painter(viewport());
-    painter.setPen(QPen(compareFrame, 2, Qt::DashLine));
+    painter.setPen(QPen(VNStatusPalette::compareColor(), 2, Qt::DashLine));
     painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
 }
 

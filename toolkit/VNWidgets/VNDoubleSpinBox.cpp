@@ -1,6 +1,7 @@
 #include "VNDoubleSpinBox.h"
 
 #include "VNFormatter.h"
+#include "VNStatusPalette.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -603,14 +604,15 @@ void VNDoubleSpinBox::paintSigmaMarker(QWidget* edit)
     QFont bold = edit->font();
     bold.setBold(isSigmaActive());
     painter.setFont(bold);
+    // The marker takes the colour of the sigma bar on the field's edge; active: a white sigma on it.
+    const QColor color = VNStatusPalette::sigmaColor(VNStatusPalette::statusLook(getWidgetStatus()).sigma);
     if (isSigmaActive()) {
-        // Active: a white sigma on the toolkit's sigma blue.
         painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x1f, 0x5f, 0xbf));
+        painter.setBrush(color);
         painter.drawRoundedRect(marker, 2, 2);
         painter.setPen(Qt::white);
     } else {
-        painter.setPen(QColor(0x6b, 0x7a, 0x8c));
+        painter.setPen(color);
     }
     painter.drawText(marker, Qt::AlignCenter, QString(sigmaSign));
 }

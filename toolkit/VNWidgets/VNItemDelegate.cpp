@@ -3,7 +3,7 @@
 #include "VNDoubleSpinBox.h"
 #include "VNDoubleSpinBoxData.h"
 #include "VNItemDataRoles.h"
-#include "VNStatusColors_p.h"
+#include "VNStatusPalette.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -19,29 +19,20 @@ const QColor readOnlyFill(0xf3, 0xf3, 0xf3);
 const QColor treeLineColor(0x9a, 0xa4, 0xb0);
 const QColor separatorColor(0xdc, 0xe0, 0xe5);
 const QColor fieldFrameColor(0xb4, 0xbb, 0xc4);
-const QColor sigmaColor(0x6a, 0x3d, 0xb8);
-const QColor sigmaErrorColor(0xd3, 0x2f, 0x2f);
-const QColor sigmaChangedColor(0xe0, 0x7b, 0x00);
 const int fieldWidths[] = {40, 70, 100, 140};
 const int sigmaSize = 13;
 const int markSize = 4;
 const int colorBoxSize = 12;
 
-// One corner mark per status bit, in the order the marks are laid out from the right.
-struct StatusMark
-{
-    int bits;
-    QColor color;
-};
-const StatusMark statusMarks[] = {
-    {VNWidgetStatus::userEdit, QColor(0x3d, 0x7c, 0xc9)},
-    {VNWidgetStatus::needInput, QColor(0xd3, 0x2f, 0x2f)},
-    {VNWidgetStatus::different, QColor(0xc9, 0xa4, 0x00)},
-    {VNWidgetStatus::compareDifferent, QColor(0xc0, 0x1c, 0xa8)},
-    {VNWidgetStatus::standardEnabled | VNWidgetStatus::standardDefined | VNWidgetStatus::standardDefault,
-     QColor(0x4c, 0x9a, 0x4c)},
-    {VNWidgetStatus::standardDefaultChanged | VNWidgetStatus::standardDeviate, QColor(0xe0, 0x7b, 0x00)},
-    {VNWidgetStatus::standardLocked, QColor(0x55, 0x55, 0x55)},
+// The corner marks, laid out from the right: one for each status bit that has a look of its own,
+// and one for the standard bits together, in the colour of the standard look they make.
+const int markedBits[] = {
+    VNWidgetStatus::userEdit,
+    VNWidgetStatus::needInput,
+    VNWidgetStatus::different,
+    VNWidgetStatus::compareDifferent,
+    VNWidgetStatus::standardEnabled | VNWidgetStatus::standardDefined | VNWidgetStatus::standardDefault |
+        VNWidgetStatus::standardDefaultChanged | VNWidgetStatus::standardDeviate | VNWidgetStatus::standardLocked,
 };
 
 void paintEye(QPainter* painter, const QRect& rect, bool open, const QColor& color)
@@ -203,8 +194,8 @@ void VNItemDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
 
 void VNItemDelegate::paintCellBackground(QPainter* painter, const QRect& rect, const QModelIndex& index)
 {
-    const VNStatusColors colors =
-        vnStatusColors(VNWidgetStatus::StatusFlags(index.data(VNItemDataRoles::StatusRole).toInt()));
+    const VNStatusPalette::Colors colors = VNStatusPalette::colors(
+        VNWidgetStatus::StatusFlags(index.data(VNItemDataRoles::StatusRole).toInt()), isActive(index));
     if (colors.isValid()) {
         painter->fillRect(rect, colors.fill);
         painter->fillRect(QRect(rect.left(), rect.top(), statusBarWidth, rect.height()), colors.frame);
@@ -262,7 +253,11 @@ void VNItemDelegate::paintDecorations(QPainter* painter, QStyleOptionViewItem& o
 
 void VNItemDelegate::paintSigma(QPainter* painter, const QRect& rect, int status) const
 {
-    const QColor color = (status & VNWidgetStatus::sigmaError) ? sigmaErrorColor : sigmaColor;
+    // The marker takes the colour of the sigma bar a field shows; a changed standard has its own dot.
+    using SigmaLook = VNStatusPalette::SigmaLook;
+    const VNWidgetStatus::StatusFlags flags(status);
+    const QColor color = VNStatusPalette::sigmaColor(
+        VNStatusPalette::statusLook(flags & ~VNWidgetStatus::StatusFlags(VNWidgetStatus::sigmaStandardChanged)).sigma);
     const bool on = status & VNWidgetStatus::sigmaOn;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -276,7 +271,7 @@ void VNItemDelegate::paintSigma(QPainter* painter, const QRect& rect, int status
     painter->drawText(rect, Qt::AlignCenter, QString(QChar(0x03c3)));
     if (status & VNWidgetStatus::sigmaStandardChanged) {
         painter->setPen(Qt::NoPen);
-        painter->setBrush(sigmaChangedColor);
+        painter->setBrush(VNStatusPalette::sigmaColor(SigmaLook::standardChanged));
         painter->drawEllipse(QRectF(rect.right() - 3.5, rect.top() - 1.5, 5, 5));
     }
     painter->restore();
@@ -285,10 +280,11 @@ void VNItemDelegate::paintSigma(QPainter* painter, const QRect& rect, int status
 void VNItemDelegate::paintStatusMarks(QPainter* painter, const QRect& rect, int status)
 {
     int right = rect.right() - 1;
-    for (const StatusMark& mark : statusMarks) {
-        if (!(status & mark.bits))
+    for (int bits : markedBits) {
+        const QColor color = VNStatusPalette::markColor(VNWidgetStatus::StatusFlags(status & bits));
+        if (!color.isValid())
             continue;
-        painter->fillRect(QRect(right - markSize + 1, rect.top() + 1, markSize, markSize), mark.color);
+        painter->fillRect(QRect(right - markSize + 1, rect.top() + 1, markSize, markSize), color);
         right -= markSize + 1;
     }
 }

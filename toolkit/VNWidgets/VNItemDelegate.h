@@ -19,9 +19,11 @@ class QAbstractItemView;
 // - ColorBoxRole, IconRightRole, ElideModeRole: a colour box, an icon on the right, the elide mode;
 // - ValueRole/UnitRole/DecimalsRole or a VNDoubleSpinBoxData in Qt::EditRole: a number with a
 //   unit, right-aligned in the value field and edited with a VNDoubleSpinBox.
-// Every status bit shows: the dominant status gives the fill and the bar, and each set bit adds
-// its own mark in the cell's top right corner; with SigmaAvailable the cell shows a clickable
-// sigma marker (filled when sigma is on, red when invalid, with a dot when its standard changed).
+// Every status bit shows, in the colours of VNStatusPalette: the main look gives the fill and the
+// bar (faded in inactive cells), user edit, need input, different, compare differs and the
+// standard bits each add a mark in the cell's top right corner; with SigmaAvailable the cell shows
+// a clickable sigma marker in the colour of the sigma bar (filled when sigma is on, with a dot
+// when its standard changed).
 // Each kind is painted in its own step of paint() so that the steps combine.
 class VNWIDGETS_EXPORT VNItemDelegate : public QStyledItemDelegate
 {
@@ -82,7 +84,7 @@ public:
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override;
 
     // The status look for delegates that draw cells themselves: paintCellBackground() gives the
-    // status fill and bar (or the read-only fill), paintStatusMarks() the marks of each status bit.
+    // status fill and bar (or the read-only fill), paintStatusMarks() the corner marks.
     static void paintCellBackground(QPainter* painter, const QRect& rect, const QModelIndex& index);
     static void paintStatusMarks(QPainter* painter, const QRect& rect, int status);
 

@@ -1,5 +1,7 @@
 #include "VNMultiProgressBar.h"
 
+#include "VNStatusPainter_p.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QtMath>
@@ -169,6 +171,8 @@ void VNMultiProgressBar::paintEvent(QPaintEvent*)
         paintRing(painter);
     else
         paintRow(painter);
+    // A status word arrives as the dynamic property of plain widgets; it frames the whole bar.
+    VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
 }
 
 void VNMultiProgressBar::paintRow(QPainter& painter)

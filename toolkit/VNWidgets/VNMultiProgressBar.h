@@ -9,7 +9,8 @@
 
 // A progress bar for a sequence of named operations, one of them current. Each operation has a
 // range and a step; finished operations are filled, the current one is filled up to its step.
-// Drawn as a row of segments or, in the circular look, as a ring of segments.
+// Drawn as a row of segments or, in the circular look, as a ring of segments. A status word
+// stored with VNWidgetStatus::setStatusProperty() frames it in the status look.
 class VNWIDGETS_EXPORT VNMultiProgressBar : public QWidget
 {
     Q_OBJECT

@@ -1,5 +1,7 @@
 #include "VNWidgetStatus.h"
 
+#include "VNStatusPalette.h"
+
 #include <QStringList>
 #include <QStyle>
 #include <QVariant>
@@ -34,26 +36,6 @@ const BitName bitNames[] = {
     {VNWidgetStatus::standardLocked, "standardLocked"},
 };
 
-// The main look follows the most urgent state first: missing input, then a differing value,
-// then the standard (norm) states, then a plain user edit.
-QString standardLookName(VNWidgetStatus::StatusFlags flags)
-{
-    const bool locked = flags.testFlag(VNWidgetStatus::standardLocked);
-    const bool deviate = flags.testFlag(VNWidgetStatus::standardDeviate);
-    if (locked && deviate)
-        return QStringLiteral("standardChangedLocked");
-    if (locked)
-        return QStringLiteral("standardLocked");
-    if (flags.testFlag(VNWidgetStatus::standardDefaultChanged))
-        return QStringLiteral("standardDefaultChanged");
-    if (flags.testFlag(VNWidgetStatus::standardDefault))
-        return QStringLiteral("standardDefault");
-    if (deviate)
-        return QStringLiteral("standardChanged");
-    if (flags & (VNWidgetStatus::standardDefined | VNWidgetStatus::standardEnabled))
-        return QStringLiteral("standardDefined");
-    return QString();
-}
 } // namespace
 
 void VNWidgetStatus::setFlag(StatusFlags& flags, Status flag, bool on)
@@ -68,42 +50,17 @@ VNWidgetStatus::StatusFlags VNWidgetStatus::setFlag(StatusFlags flags, StatusFla
 
 VNWidgetStatus::Status VNWidgetStatus::getDominantStatusFromFlag(StatusFlags flags)
 {
-    static const Status priority[] = {
-        needInput,       compareDifferent, different,       standardLocked, standardDeviate, standardDefaultChanged,
-        standardDefault, standardDefined,  standardEnabled, sigmaError,     sigmaOn,         sigmaStandardChanged,
-        sigmaAvailable,  userEdit};
-    for (Status status : priority) {
-        if (flags.testFlag(status))
-            return status;
-    }
-    return undef;
+    return VNStatusPalette::statusLook(flags).dominant;
 }
 
 QString VNWidgetStatus::lookName(StatusFlags flags)
 {
-    if (flags.testFlag(needInput))
-        return QStringLiteral("needInput");
-    if (flags.testFlag(different))
-        return QStringLiteral("different");
-    const QString standard = standardLookName(flags);
-    if (!standard.isEmpty())
-        return standard;
-    if (flags.testFlag(userEdit))
-        return QStringLiteral("userEdit");
-    return QStringLiteral("undef");
+    return VNStatusPalette::name(VNStatusPalette::statusLook(flags).look);
 }
 
 QString VNWidgetStatus::sigmaLookName(StatusFlags flags)
 {
-    if (flags.testFlag(sigmaError))
-        return QStringLiteral("invalid");
-    if (flags.testFlag(sigmaStandardChanged))
-        return QStringLiteral("standardChanged");
-    if (flags.testFlag(sigmaOn))
-        return QStringLiteral("active");
-    if (flags.testFlag(sigmaAvailable))
-        return QStringLiteral("available");
-    return QStringLiteral("none");
+    return VNStatusPalette::name(VNStatusPalette::statusLook(flags).sigma);
 }
 
 QString VNWidgetStatus::debugStatusFlag(StatusFlags flags)
@@ -124,9 +81,10 @@ void VNWidgetStatus::setStatusProperty(QWidget* widget, StatusFlags flags)
     if (widget->property(statusPropertyName) == word)
         return;
     widget->setProperty(statusPropertyName, word);
-    widget->setProperty(lookPropertyName, lookName(flags));
-    widget->setProperty(sigmaLookPropertyName, sigmaLookName(flags));
-    widget->setProperty(comparePropertyName, flags.testFlag(compareDifferent));
+    const VNStatusPalette::StatusLook look = VNStatusPalette::statusLook(flags);
+    widget->setProperty(lookPropertyName, VNStatusPalette::name(look.look));
+    widget->setProperty(sigmaLookPropertyName, VNStatusPalette::name(look.sigma));
+    widget->setProperty(comparePropertyName, look.compare);
     repolish(widget);
 }
 

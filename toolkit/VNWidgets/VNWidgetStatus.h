@@ -11,16 +11,16 @@ class QWidget;
 // The status bits that select how an input widget looks. Toolkit widgets keep them through
 // VNWidgetInterface; plain Qt widgets carry them as dynamic properties that the style sheet reads.
 //
-// How a word looks (the rules are spelled out at the top of vnwidgets.qss):
-// - lookName() picks the fill and frame colour, most urgent first: needInput (red), different
-//   (yellow), the standard states (locked grey, changed-locked brown, default-changed violet,
-//   default cyan, changed orange, defined green), userEdit (blue), else "undef" (plain frame);
-// - sigmaLookName() picks the bar on the left edge: sigmaError, sigmaStandardChanged, sigmaOn,
-//   sigmaAvailable, else "none";
-// - compareDifferent adds a dashed magenta frame on top of both.
+// Which looks a word shows, and in which colours, is decided in one place: VNStatusPalette. The
+// functions here that name a look or a dominant status are views of that one decision:
+// - lookName() names the main look (fill, frame and text colour), most urgent first: needInput,
+//   different, the standard states, userEdit, else "undef" (the plain frame);
+// - sigmaLookName() names the bar on the left edge ("none" without sigma);
+// - compareDifferent adds a dashed frame on top of both;
+// - getDominantStatusFromFlag() gives the status whose look dominates, for widgets that can show
+//   one status only.
 // A status never changes a widget's size or position: looks change colours, and where a border
-// grows, the padding shrinks by as much. Widget authors painting a status themselves keep to
-// the same colours and to the same rule.
+// grows, the padding shrinks by as much.
 class VNWIDGETS_EXPORT VNWidgetStatus
 {
     Q_GADGET
@@ -42,7 +42,8 @@ public:
         standardDefaultChanged = 0x8000,
         standardDeviate = 0x10000,
         standardLocked = 0x20000,
-        standardChanged = standardDeviate | standardDefined
+        standardChanged = standardDeviate | standardDefined,
+        standardChangedLocked = standardDeviate | standardLocked
     };
     Q_DECLARE_FLAGS(StatusFlags, Status)
     Q_FLAG(StatusFlags)
