@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QCommandLinkButton>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -72,6 +73,8 @@ private slots:
     void variantMenu();
     void checkBoxGroupMenu();
     void joinsMenuRows();
+    void groupedControlWrapsOnlyWhenRowIsFull_data();
+    void groupedControlWrapsOnlyWhenRowIsFull();
     void selectDefaultCounterIsShared();
     void disableAndEnableMainActions();
     void automatismFollowsCheckBoxes();
@@ -232,6 +235,40 @@ void TestAdvancedMenuDialog::joinsMenuRows()
              QStringList({"Copy", "Dependent", "Dependent", "Dependent", "Dependent", "Dependent"}));
     QCOMPARE(menu->subActions(six).first()->property(VNAdvancedMenu::subActionIconProperty).toInt(), 1);
     QCOMPARE(menu->subActions(six).last()->property(VNAdvancedMenu::subActionIconProperty).toInt(), 2);
+}
+
+void TestAdvancedMenuDialog::groupedControlWrapsOnlyWhenRowIsFull_data()
+{
+    QTest::addColumn<int>("plainBefore");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<int>("column");
+    QTest::newRow("first") << 0 << 0 << 0;
+    QTest::newRow("second cell") << 1 << 0 << 1;
+    QTest::newRow("just fits the row") << 2 << 0 << 2;
+    QTest::newRow("one cell left") << 3 << 1 << 0;
+    QTest::newRow("row full") << 4 << 1 << 0;
+    QTest::newRow("just fits the second row") << 6 << 1 << 2;
+    QTest::newRow("one cell left in the second row") << 7 << 2 << 0;
+}
+
+// Four cells a row; a grouped control takes two.
+void TestAdvancedMenuDialog::groupedControlWrapsOnlyWhenRowIsFull()
+{
+    QFETCH(int, plainBefore);
+    QFETCH(int, row);
+    QFETCH(int, column);
+    VNAdvancedMenu menu;
+    const int group = menu.addControlGroup(QStringLiteral("Group"), false, false);
+    for (int i = 0; i < plainBefore; ++i)
+        menu.addControlToGroup(new QAction(QString::number(i), &menu), group);
+    QList<QAction*> subs{new QAction(QStringLiteral("Sub"), &menu)};
+    menu.addGroupedControlToGroup(new QAction(QStringLiteral("Main"), &menu), subs, group);
+    menu.ensurePanel();
+    auto* grouped = menu.findChild<QWidget*>("groupedControl");
+    auto* grid = qobject_cast<QGridLayout*>(grouped->parentWidget()->layout());
+    int at[4] = {};
+    grid->getItemPosition(grid->indexOf(grouped), &at[0], &at[1], &at[2], &at[3]);
+    QCOMPARE(QList<int>({at[0], at[1], at[3]}), QList<int>({row, column, 2}));
 }
 
 void TestAdvancedMenuDialog::selectDefaultCounterIsShared()

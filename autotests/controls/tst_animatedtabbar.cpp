@@ -5,10 +5,12 @@
 #include <VNTabBar.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QVariantAnimation>
 
@@ -60,6 +62,31 @@ struct Bars
 };
 
 const QStringList sampleTabs = {"PL", "(F-40)", "D-20", "(T40)"};
+
+struct Popup
+{
+    QStringList entries; // "--" for a separator
+    QPoint position;
+};
+
+// What pops up while `open` runs: its entries and place, read before it is closed again.
+Popup popupDuring(const std::function<void()>& open)
+{
+    Popup popup;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&popup] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (QAction* action : menu->actions())
+            popup.entries << (action->isSeparator() ? QStringLiteral("--") : action->text());
+        popup.position = menu->pos();
+        menu->close();
+    });
+    poll.start(10);
+    open();
+    return popup;
+}
 } // namespace
 
 class TestAnimatedTabBar : public QObject
@@ -77,6 +104,8 @@ private slots:
     void arrowsSwitchAndMirror();
     void indicatorSlides();
     void indexAtPosition();
+    void tabMenus_data();
+    void tabMenus();
     void lockedOperationIsNotSelectable();
     void statusAndDarkStyleArePainted();
     void firstTabKeepsPreferredWidth();
@@ -214,6 +243,50 @@ void TestAnimatedTabBar::indexAtPosition()
     bar.resize(400, 30);
     QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(bar.tabRect(1).center())), 1);
     QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(QPoint(390, 15))), -1);
+}
+
+void TestAnimatedTabBar::tabMenus_data()
+{
+    QTest::addColumn<bool>("contextMenu");
+    QTest::addColumn<int>("tab"); // -1: beside the tabs
+    QTest::addColumn<QStringList>("entries");
+    const QStringList tabMenu{"Test1", "--", "Test2", "--", "Test3"};
+    QTest::newRow("menu button of the last tab") << false << 3 << tabMenu;
+    QTest::newRow("menu button of the first tab") << false << 0 << tabMenu;
+    QTest::newRow("menu for no tab") << false << -1 << QStringList();
+    QTest::newRow("context menu over a tab") << true << 1 << QStringList({"Test1", "Test2"});
+    QTest::newRow("context menu over the first tab") << true << 0 << QStringList({"Test1", "Test2"});
+    QTest::newRow("context menu beside the tabs") << true << -1 << QStringList();
+}
+
+void TestAnimatedTabBar::tabMenus()
+{
+    QFETCH(bool, contextMenu);
+    QFETCH(int, tab);
+    QFETCH(QStringList, entries);
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    dialog.resize(600, 300);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    VNAnimatedTabBar* bar = bars.animated;
+    bar->useMenuButton(0, true);
+    const QPoint beside(bar->tabRect(3).right() + 4, bar->tabRect(3).center().y());
+    QCOMPARE(bar->getIndexAtPosition(bar->mapToGlobal(beside)), -1);
+    const QPoint at = tab < 0 ? beside : bar->tabRect(tab).center();
+    const Popup popup = popupDuring([&] {
+        if (contextMenu) {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, at, bar->mapToGlobal(at));
+            QApplication::sendEvent(bar, &event);
+        } else if (tab < 0) {
+            QMetaObject::invokeMethod(&dialog, "menuButtonClicked", Q_ARG(int, -1));
+        } else {
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->menuButtonRect(tab).center());
+        }
+    });
+    QCOMPARE(popup.entries, entries);
+    if (tab >= 0)
+        QCOMPARE(popup.position, bar->mapToGlobal(contextMenu ? at : bar->tabRect(tab).bottomLeft()));
 }
 
 void TestAnimatedTabBar::lockedOperationIsNotSelectable()

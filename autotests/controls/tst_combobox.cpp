@@ -13,6 +13,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -31,6 +32,33 @@ QStringList texts(const QComboBox* combo)
         result << combo->itemText(i);
     return result;
 }
+
+// Every entry of a groupable box, depth first: a child behind its group, with its data.
+QStringList groupEntries(const QAbstractItemModel* model, const QModelIndex& parent = QModelIndex())
+{
+    QStringList result;
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        const QVariant data = index.data(Qt::UserRole);
+        result << (parent.isValid() ? parent.data().toString() + '/' : QString()) + index.data().toString() +
+                      (data.isValid() ? '=' + data.toString() : QString());
+        result << groupEntries(model, index);
+    }
+    return result;
+}
+
+const QStringList groupSample{"Group1",
+                              "Group1/Child1=0",
+                              "Group1/Child 02=1",
+                              "Group1/Child 03=2",
+                              "Group1/Child 04=3",
+                              "Group1/Child 05=4",
+                              "ItemWithoutGroup",
+                              "Group2",
+                              "Group2/Child 11=0",
+                              "Group2/Child 12=1",
+                              "Group2/Child 13=2",
+                              "Group2/Child 14=3"};
 } // namespace
 
 class ComboBoxTest : public QObject
@@ -55,6 +83,10 @@ private slots:
     void degreeSpecialValues();
     void degreeFieldSelectsAllOnFocus();
     void groupableStartsAtSecondChildOfGroup2();
+    void groupableDeleteCurrent_data();
+    void groupableDeleteCurrent();
+    void addSeparatorEndsEveryBox();
+    void filterComboInRowOfItsOwn();
     void groupablePopupCollapsesAndSelects();
     void filterComboFiltersWhileTyping();
     void loupeMovesIntoComboBoxTest();
@@ -297,12 +329,63 @@ void ComboBoxTest::groupableStartsAtSecondChildOfGroup2()
     QCOMPARE(groups->currentTopLevelRow(), 2);
     QCOMPARE(groups->currentChildRow(), 1);
     QCOMPARE(groups->currentData().toInt(), 1);
-    QAbstractItemModel* model = groups->model();
-    QCOMPARE(model->rowCount(), 3);
-    QCOMPARE(model->rowCount(model->index(0, 0)), 5);
-    QCOMPARE(model->index(4, 0, model->index(0, 0)).data().toString(), QString("Child 05"));
-    QCOMPARE(model->rowCount(model->index(1, 0)), 0);
-    QCOMPARE(model->index(3, 0, model->index(2, 0)).data(Qt::UserRole).toInt(), 3);
+    QCOMPARE(groupEntries(groups->model()), groupSample);
+}
+
+void ComboBoxTest::groupableDeleteCurrent_data()
+{
+    QTest::addColumn<int>("topLevelRow");
+    QTest::addColumn<int>("childRow");
+    QTest::addColumn<QString>("removed");
+    QTest::newRow("child of the second group") << 2 << 1 << "Group2/Child 12=1";
+    QTest::newRow("first child") << 0 << 0 << "Group1/Child1=0";
+    QTest::newRow("last child") << 0 << 4 << "Group1/Child 05=4";
+    QTest::newRow("entry without group") << 1 << -1 << "ItemWithoutGroup";
+}
+
+// "Delete Current" removes the chosen entry, wherever it sits; the other boxes lose theirs.
+void ComboBoxTest::groupableDeleteCurrent()
+{
+    QFETCH(int, topLevelRow);
+    QFETCH(int, childRow);
+    QFETCH(QString, removed);
+    TestComboBox dialog(nullptr);
+    auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
+    groups->setCurrentGroupIndex(topLevelRow, childRow);
+    QCOMPARE(groups->currentTopLevelRow(), topLevelRow);
+    QCOMPARE(groups->currentChildRow(), childRow);
+    auto* plain = child<QComboBox>(&dialog, "comboBox_2");
+    plain->setCurrentIndex(2);
+    clickButton(&dialog, "deleteCurrent");
+    QStringList expected = groupSample;
+    expected.removeOne(removed);
+    QCOMPARE(groupEntries(groups->model()), expected);
+    QCOMPARE(texts(plain), QStringList({"Entry 1", "A longer Entry 2", "3"}));
+    QCOMPARE(texts(dialog.findChild<VNFilterComboBox*>()), QStringList(standardItems.mid(1)));
+}
+
+void ComboBoxTest::addSeparatorEndsEveryBox()
+{
+    TestComboBox dialog(nullptr);
+    clickButton(&dialog, "addSeparator");
+    for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
+        const bool bulk = combo->objectName() != QLatin1String("vnDoubleComboBox");
+        const QString last = combo->itemData(combo->count() - 1, Qt::AccessibleDescriptionRole).toString();
+        QVERIFY2((last == QLatin1String("separator")) == bulk, qPrintable(combo->objectName()));
+    }
+    QCOMPARE(child<QComboBox>(&dialog, "comboBox_2")->count(), 5);
+    QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB_2")->count(), 1);
+}
+
+// Below the form's last row, at its start, where scripts look for it.
+void ComboBoxTest::filterComboInRowOfItsOwn()
+{
+    TestComboBox dialog(nullptr);
+    auto* layout = child<QGridLayout>(&dialog, "gridLayout");
+    int row = 0, column = 0, rows = 0, columns = 0;
+    layout->getItemPosition(layout->indexOf(dialog.findChild<VNFilterComboBox*>()), &row, &column, &rows, &columns);
+    QCOMPARE(QList<int>({row, column, rows, columns}), QList<int>({14, 0, 1, 1}));
+    QCOMPARE(layout->itemAtPosition(13, 1)->widget()->objectName(), QString("groupableCB"));
 }
 
 void ComboBoxTest::groupablePopupCollapsesAndSelects()
@@ -330,6 +413,13 @@ void ComboBoxTest::groupablePopupCollapsesAndSelects()
     QTRY_VERIFY(!tree->isVisible());
     QCOMPARE(groups->currentText(), QString("Child 03"));
     QCOMPARE(spy.last(), QList<QVariant>({0, 2}));
+
+    groups->showPopup();
+    QTRY_VERIFY(tree->isVisible());
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(groups->model()->index(1, 0)).center());
+    QTRY_VERIFY(!tree->isVisible());
+    QCOMPARE(groups->currentText(), QString("ItemWithoutGroup"));
+    QCOMPARE(spy.last(), QList<QVariant>({1, -1}));
 }
 
 void ComboBoxTest::filterComboFiltersWhileTyping()

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
 
@@ -36,6 +37,7 @@ private slots:
     void enableCheckBoxReachesEveryButton();
     void countsAreNotRefreshed();
     void buttonsAreExclusive();
+    void removingCheckedButtonChecksFirst();
     void fixedFontSizeIgnoresParentFont();
     void launcherOpensNewSwitcherEveryClick();
 };
@@ -93,6 +95,24 @@ void TestResultSwitcher::buttonsAreExclusive()
     QVERIFY(!switcher.button(0)->isChecked());
     switcher.setItemWidgetStatus(1, VNWidgetStatus::needInput);
     QCOMPARE(switcher.button(1)->property("statusLook").toString(), QStringLiteral("needInput"));
+}
+
+void TestResultSwitcher::removingCheckedButtonChecksFirst()
+{
+    VNResultSwitcher switcher;
+    for (int i = 0; i < 4; ++i)
+        switcher.insertButton(QIcon(), QString::number(i), -1, 0);
+    QSignalSpy current(&switcher, &VNResultSwitcher::currentChanged);
+    QTest::mouseClick(switcher.button(2), Qt::LeftButton);
+    QCOMPARE(current.last(), QList<QVariant>({2}));
+    switcher.removeButton(0);
+    QCOMPARE(switcher.checkedIndex(), 1);
+    switcher.removeButton(1);
+    QCOMPARE(buttonTexts(&switcher), QStringList({"1", "3"}));
+    QCOMPARE(switcher.checkedIndex(), 0);
+    QCOMPARE(current.last(), QList<QVariant>({0}));
+    switcher.removeButton(2);
+    QCOMPARE(switcher.count(), 2);
 }
 
 void TestResultSwitcher::fixedFontSizeIgnoresParentFont()

@@ -120,6 +120,12 @@ void SliderViewTest::minimumDoesNotClampRecord()
     QCOMPARE(spin(&dialog, "m_current")->minimum(), 60);
     QCOMPARE(spin(&dialog, "m_markBest")->minimum(), 60);
     QCOMPARE(spy.count(), 0);
+    // The best field clamps to the new minimum and the mark follows it; the sublimit stays.
+    QCOMPARE(spin(&dialog, "m_markBest")->value(), 60);
+    QCOMPARE(sigma->bestMark(), 60);
+    QCOMPARE(sigma->currentSublimit().minimum, 0);
+    spin(&dialog, "m_min")->setValue(0);
+    QCOMPARE(sigma->bestMark(), 60);
     spin(&dialog, "m_sublimitMin")->setValue(1);
     QCOMPARE(sigma->admissibleRange().minimum, 5);
     QCOMPARE(sigma->currentSublimit().minimum, 1);
