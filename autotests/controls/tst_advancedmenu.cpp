@@ -69,7 +69,6 @@ private slots:
     void buttonActionsReachMenuActions();
 
     void modifyMenuGroups();
-    void listMenuEntries();
     void variantMenu();
     void checkBoxGroupMenu();
     void joinsMenuRows();
@@ -156,19 +155,7 @@ void TestAdvancedMenuDialog::modifyMenuGroups()
     }
     auto* oneGroup = qobject_cast<VNAdvancedMenu*>(dialog.findChild<VNButton*>("m_advancedBtnOneGroup")->menu());
     QCOMPARE(oneGroup->groupCount(), 1);
-    QCOMPARE(oneGroup->actions().size(), 12);
-    QCOMPARE(oneGroup->actions().last()->text(), QStringLiteral("Replace"));
     QCOMPARE(oneGroup->actions().last()->toolTip(), QStringLiteral("Add a replace"));
-}
-
-void TestAdvancedMenuDialog::listMenuEntries()
-{
-    TestAdvancedMenu dialog(nullptr);
-    auto* menu = qobject_cast<VNAdvancedListMenu*>(dialog.findChild<VNButton*>("m_advanceListBtn")->menu());
-    QVERIFY(menu);
-    QCOMPARE(menu->defaultIconSize(), QSize(48, 48));
-    const QList<QAbstractButton*> entries = menu->findChildren<QAbstractButton*>("listMenuEntry");
-    QCOMPARE(entries.size(), 7);
 }
 
 void TestAdvancedMenuDialog::variantMenu()
@@ -185,17 +172,22 @@ void TestAdvancedMenuDialog::variantMenu()
     QVERIFY(menu->findChild<QToolButton*>("selectDefault"));
     QCOMPARE(texts(menu->groupActions(1)), QStringList({"One", "Two Up", "One Up One Down", "Two Shapes"}));
     const QList<QAction*> actions = menu->actions();
-    QCOMPARE(actions.size(), 14);
-    QCOMPARE(actions.at(5)->text(), QStringLiteral("Chevron"));
     QCOMPARE(actions.at(5)->property("optimizationType").toInt(), 17);
     QCOMPARE(actions.at(5)->property("VNActionBarButtonStyle").toInt(), 0);
     for (QAction* action : actions)
         QVERIFY(action->isCheckable());
-    menu->selectAll();
+    actions.at(1)->setEnabled(false);
+    menu->findChild<QToolButton*>("selectAll")->click();
     QVERIFY(actions.last()->isChecked());
+    QVERIFY(!actions.at(1)->isChecked());
     QCOMPARE(link->description(), QStringLiteral("6 of 14 Variants are choosen"));
-    menu->selectNone();
+    actions.at(1)->setEnabled(true);
+    actions.at(1)->setChecked(true);
+    actions.at(2)->setEnabled(false);
+    menu->findChild<QToolButton*>("selectNone")->click();
     QVERIFY(!actions.first()->isChecked());
+    QVERIFY(!actions.at(1)->isChecked());
+    QVERIFY(actions.at(2)->isChecked());
 }
 
 void TestAdvancedMenuDialog::checkBoxGroupMenu()
@@ -213,8 +205,10 @@ void TestAdvancedMenuDialog::checkBoxGroupMenu()
     for (QCheckBox* box : menu->findChildren<QCheckBox*>())
         checked += box->isChecked();
     QCOMPARE(checked, 2);
+    menu->checkBoxes("Design Files").last()->setEnabled(false);
     menu->findChild<QToolButton*>("selectAll")->click();
     QVERIFY(menu->checkBoxes("Simulation State").first()->isChecked());
+    QVERIFY(!menu->checkBoxes("Design Files").last()->isChecked());
     menu->findChild<QToolButton*>("selectNone")->click();
     QVERIFY(!menu->checkBoxes("Design Files").first()->isChecked());
     QVERIFY(!menu->addCheckBoxToGroup(new QCheckBox(menu), QStringLiteral("No such group")));
@@ -227,7 +221,6 @@ void TestAdvancedMenuDialog::joinsMenuRows()
     QVERIFY(menu);
     QCOMPARE(menu->groupCount(), 7);
     QCOMPARE(menu->groupTitle(6), QStringLiteral("Longer Bottom Row"));
-    QCOMPARE(menu->actions().size(), 9);
     QAction* six = menu->groupActions(3).first();
     QCOMPARE(six->text(), QStringLiteral("Add"));
     QCOMPARE(six->toolTip(), QStringLiteral("Add point joins to connect parts"));
@@ -340,7 +333,10 @@ void TestAdvancedMenuDialog::clickInMenuPanelBecomesMain()
     QCOMPARE(button->toolTip(), QStringLiteral("Add a manual boundary fill"));
 
     auto* listButton = dialog.findChild<VNButton*>("m_advancedListMenuButton");
-    const QList<QAbstractButton*> entries = listButton->menu()->findChildren<QAbstractButton*>("listMenuEntry");
+    auto* listMenu = qobject_cast<VNAdvancedListMenu*>(listButton->menu());
+    QCOMPARE(listMenu->defaultIconSize(), QSize(48, 48));
+    const QList<QAbstractButton*> entries = listMenu->findChildren<QAbstractButton*>("listMenuEntry");
+    QCOMPARE(entries.size(), 7);
     entries.at(2)->click();
     QCOMPARE(listButton->mainAction()->text(), QStringLiteral("Single"));
 }

@@ -82,11 +82,8 @@ private slots:
     void degreeSpecialValues_data();
     void degreeSpecialValues();
     void degreeFieldSelectsAllOnFocus();
-    void groupableStartsAtSecondChildOfGroup2();
     void groupableDeleteCurrent_data();
     void groupableDeleteCurrent();
-    void addSeparatorEndsEveryBox();
-    void filterComboInRowOfItsOwn();
     void groupablePopupCollapsesAndSelects();
     void filterComboFiltersWhileTyping();
     void loupeMovesIntoComboBoxTest();
@@ -101,7 +98,14 @@ void ComboBoxTest::cleanup()
 void ComboBoxTest::standardItemsAndIcons()
 {
     TestComboBox dialog(nullptr);
-    QVERIFY(!dialog.findChild<VNFilterComboBox*>()->itemIcon(0).isNull());
+    auto* filter = dialog.findChild<VNFilterComboBox*>();
+    QVERIFY(!filter->itemIcon(0).isNull());
+    // The filter box sits below the form's last row, at its start, where scripts look for it.
+    auto* layout = child<QGridLayout>(&dialog, "gridLayout");
+    int at[4] = {};
+    layout->getItemPosition(layout->indexOf(filter), &at[0], &at[1], &at[2], &at[3]);
+    QCOMPARE(QList<int>({at[0], at[1], at[2], at[3]}), QList<int>({14, 0, 1, 1}));
+    QCOMPARE(layout->itemAtPosition(13, 1)->widget()->objectName(), QString("groupableCB"));
     auto* withIcons = child<QComboBox>(&dialog, "comboBox_3");
     QVERIFY(!withIcons->itemIcon(0).pixmap(16).isNull());
     QVERIFY(!withIcons->itemIcon(1).pixmap(16).isNull());
@@ -115,8 +119,9 @@ void ComboBoxTest::standardItemsAndIcons()
     QCOMPARE(empty->count(), 0);
     QVERIFY(empty->isNeedInputStatus());
     QCOMPARE(empty->property("statusLook").toString(), QString("needInput"));
+    child<QComboBox>(&dialog, "m_widgetStatusCB")->setCurrentIndex(2);
     clickButton(&dialog, "add");
-    QCOMPARE(empty->property("statusLook").toString(), QString("undef"));
+    QCOMPARE(empty->property("statusLook").toString(), QString("userEdit"));
 }
 
 void ComboBoxTest::addEntryUsesDefaultAndCurrentStatus()
@@ -157,6 +162,12 @@ void ComboBoxTest::restoreRefillsEverything()
     QCOMPARE(child<QComboBox>(&dialog, "comboBox_2")->count(), 0);
     QCOMPARE(child<QComboBox>(&dialog, "groupableCB")->count(), 0);
     clickButton(&dialog, "addSeparator");
+    for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
+        const bool bulk = combo->objectName() != QLatin1String("vnDoubleComboBox");
+        const QString last = combo->itemData(combo->count() - 1, Qt::AccessibleDescriptionRole).toString();
+        QVERIFY2((last == QLatin1String("separator")) == bulk, qPrintable(combo->objectName()));
+        QCOMPARE(combo->count(), bulk ? 1 : 5);
+    }
     clickButton(&dialog, "restore");
     for (const char* name : {"comboDeg", "vnUnitComboBox", "comboBox_2", "comboBox_10"})
         QCOMPARE(texts(child<QComboBox>(&dialog, name)), standardItems);
@@ -164,8 +175,16 @@ void ComboBoxTest::restoreRefillsEverything()
     QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB")->count(), 7);
     QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB_2")->count(), 0);
     auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
-    QCOMPARE(groups->count(), 3);
+    // The groups as the dialog starts: headings in bold that cannot be chosen, the second child
+    // of the second group current.
+    QCOMPARE(groupEntries(groups->model()), groupSample);
     QCOMPARE(groups->currentText(), QString("Child 12"));
+    QCOMPARE(QList<int>({groups->currentTopLevelRow(), groups->currentChildRow()}), QList<int>({2, 1}));
+    QCOMPARE(groups->currentData().toInt(), 1);
+    const QModelIndex group1 = groups->model()->index(0, 0);
+    QCOMPARE(groups->model()->flags(group1), Qt::ItemIsEnabled);
+    QVERIFY(group1.data(Qt::FontRole).value<QFont>().bold());
+    QVERIFY(groups->model()->flags(groups->model()->index(1, 0)) & Qt::ItemIsSelectable);
 }
 
 void ComboBoxTest::styleRadios_data()
@@ -184,7 +203,9 @@ void ComboBoxTest::styleRadios()
     dialog.show();
     auto* combo = child<VNComboBox>(&dialog, "comboBox_3");
     const QImage before = combo->grab().toImage();
+    const int width = combo->sizeHint().width();
     dialog.findChild<QRadioButton*>(radio)->click();
+    QCOMPARE(combo->sizeHint().width() < width, style == VNComboBox::IconOnly);
     for (VNComboBox* vnCombo : dialog.findChildren<VNComboBox*>()) {
         if (vnCombo->objectName() != QLatin1String("vnDoubleComboBox"))
             QCOMPARE(int(vnCombo->comboBoxStyle()), style);
@@ -258,6 +279,11 @@ void ComboBoxTest::numberComboItems()
     QCOMPARE(VNFormatter().valueFromText(numbers->itemText(2)), 0.5);
     auto* millimetres = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
     QCOMPARE(millimetres->formatter()->valueFromText(millimetres->itemText(2)), 25.0);
+    QTest::keyClick(millimetres, Qt::Key_Down);
+    QCOMPARE(millimetres->value(), 10.0);
+    millimetres->setValueUnit("cm");
+    QCOMPARE(millimetres->itemText(2), millimetres->formatter()->textFromValue(25, true));
+    QVERIFY(millimetres->itemText(2).endsWith("cm"));
 }
 
 void ComboBoxTest::unitComboParsesUnits_data()
@@ -282,6 +308,7 @@ void ComboBoxTest::unitComboParsesUnits()
     QCOMPARE(spy.last().first().toDouble(), millimetres);
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
     QCOMPARE(combo->value(), millimetres);
+    QCOMPARE(combo->lineEdit()->text(), combo->formatter()->textFromValue(millimetres, true));
 }
 
 void ComboBoxTest::degreeSpecialValues_data()
@@ -301,9 +328,12 @@ void ComboBoxTest::degreeSpecialValues()
     TestComboBox dialog(nullptr);
     auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
     clickButton(&dialog, "add");
-    degrees->setCurrentIndex(index);
-    emit degrees->activated(index);
+    degrees->setCurrentIndex(index == 0 ? 1 : index - 1);
+    QTest::keyClick(degrees, index == 0 ? Qt::Key_Up : Qt::Key_Down);
     QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), output);
+    const QString typed = degrees->itemText(index).toLower();
+    degrees->lineEdit()->clear();
+    QTest::keyClicks(degrees->lineEdit(), typed);
     QCOMPARE(degrees->specialValueId(), index < 3 ? index : -1);
 }
 
@@ -319,17 +349,6 @@ void ComboBoxTest::degreeFieldSelectsAllOnFocus()
     QTest::keyClicks(degrees->lineEdit(), "45");
     QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), degrees->formatter()->textFromValue(45, false));
     QVERIFY(child<QLabel>(&dialog, "comboOutput")->text().startsWith("45"));
-}
-
-void ComboBoxTest::groupableStartsAtSecondChildOfGroup2()
-{
-    TestComboBox dialog(nullptr);
-    auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
-    QCOMPARE(groups->currentText(), QString("Child 12"));
-    QCOMPARE(groups->currentTopLevelRow(), 2);
-    QCOMPARE(groups->currentChildRow(), 1);
-    QCOMPARE(groups->currentData().toInt(), 1);
-    QCOMPARE(groupEntries(groups->model()), groupSample);
 }
 
 void ComboBoxTest::groupableDeleteCurrent_data()
@@ -362,30 +381,6 @@ void ComboBoxTest::groupableDeleteCurrent()
     QCOMPARE(groupEntries(groups->model()), expected);
     QCOMPARE(texts(plain), QStringList({"Entry 1", "A longer Entry 2", "3"}));
     QCOMPARE(texts(dialog.findChild<VNFilterComboBox*>()), QStringList(standardItems.mid(1)));
-}
-
-void ComboBoxTest::addSeparatorEndsEveryBox()
-{
-    TestComboBox dialog(nullptr);
-    clickButton(&dialog, "addSeparator");
-    for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
-        const bool bulk = combo->objectName() != QLatin1String("vnDoubleComboBox");
-        const QString last = combo->itemData(combo->count() - 1, Qt::AccessibleDescriptionRole).toString();
-        QVERIFY2((last == QLatin1String("separator")) == bulk, qPrintable(combo->objectName()));
-    }
-    QCOMPARE(child<QComboBox>(&dialog, "comboBox_2")->count(), 5);
-    QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB_2")->count(), 1);
-}
-
-// Below the form's last row, at its start, where scripts look for it.
-void ComboBoxTest::filterComboInRowOfItsOwn()
-{
-    TestComboBox dialog(nullptr);
-    auto* layout = child<QGridLayout>(&dialog, "gridLayout");
-    int row = 0, column = 0, rows = 0, columns = 0;
-    layout->getItemPosition(layout->indexOf(dialog.findChild<VNFilterComboBox*>()), &row, &column, &rows, &columns);
-    QCOMPARE(QList<int>({row, column, rows, columns}), QList<int>({14, 0, 1, 1}));
-    QCOMPARE(layout->itemAtPosition(13, 1)->widget()->objectName(), QString("groupableCB"));
 }
 
 void ComboBoxTest::groupablePopupCollapsesAndSelects()

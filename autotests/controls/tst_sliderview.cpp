@@ -132,6 +132,7 @@ void SliderViewTest::minimumDoesNotClampRecord()
     spin(&dialog, "m_max")->setValue(80);
     QCOMPARE(sigma->maximum(), 80);
     QCOMPARE(spin(&dialog, "m_markBest")->maximum(), 80);
+    QCOMPARE(spin(&dialog, "m_current")->maximum(), 80);
 }
 
 void SliderViewTest::bestAcceptsMinusOne()

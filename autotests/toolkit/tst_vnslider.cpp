@@ -1,3 +1,5 @@
+#include "../TestSupport.h"
+
 #include <VNSlider.h>
 #include <VNWidgetStatus.h>
 
@@ -37,19 +39,12 @@ int grooveMiddle(const VNSlider& slider)
     return slider.grooveRect().center().y();
 }
 
-void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& pos)
-{
-    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, pos, widget->mapToGlobal(pos), Qt::LeftButton, buttons, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
-}
-
 void drag(QWidget* widget, const QPoint& from, const QPoint& to)
 {
-    sendMouse(widget, QEvent::MouseButtonPress, from);
-    sendMouse(widget, QEvent::MouseMove, (from + to) / 2);
-    sendMouse(widget, QEvent::MouseMove, to);
-    sendMouse(widget, QEvent::MouseButtonRelease, to);
+    sendLeftButtonDrag(widget, QEvent::MouseButtonPress, from);
+    sendLeftButtonDrag(widget, QEvent::MouseMove, (from + to) / 2);
+    sendLeftButtonDrag(widget, QEvent::MouseMove, to);
+    sendLeftButtonDrag(widget, QEvent::MouseButtonRelease, to);
 }
 } // namespace
 
@@ -164,11 +159,11 @@ void VNSliderTest::valueDragRespectsTrackingAndSublimit()
     slider.setCurrentSublimit({10, 80});
     QSignalSpy spy(&slider, &QSlider::valueChanged);
     const int y = grooveMiddle(slider);
-    sendMouse(&slider, QEvent::MouseButtonPress, QPoint(slider.pixelPosition(70), y));
-    sendMouse(&slider, QEvent::MouseMove, QPoint(slider.pixelPosition(90), y));
+    sendLeftButtonDrag(&slider, QEvent::MouseButtonPress, QPoint(slider.pixelPosition(70), y));
+    sendLeftButtonDrag(&slider, QEvent::MouseMove, QPoint(slider.pixelPosition(90), y));
     QCOMPARE(spy.count(), 0);
     QCOMPARE(slider.sliderPosition(), 80);
-    sendMouse(&slider, QEvent::MouseButtonRelease, QPoint(slider.pixelPosition(90), y));
+    sendLeftButtonDrag(&slider, QEvent::MouseButtonRelease, QPoint(slider.pixelPosition(90), y));
     QCOMPARE(spy.count(), 1);
     QCOMPARE(slider.value(), 80);
 }
