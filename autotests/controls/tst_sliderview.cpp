@@ -66,10 +66,6 @@ void SliderViewTest::seededSigmaSlider()
     QCOMPARE(sigma->admissibleRange().minimum, 5);
     QCOMPARE(sigma->admissibleRange().maximum, 95);
     QCOMPARE(sigma->bestMark(), 55);
-    VNSlider* span = slider(&dialog, "m_spanSlider");
-    QVERIFY(span->isSpanSlider());
-    QCOMPARE(span->admissibleRange().minimum, 30);
-    QCOMPARE(span->admissibleRange().maximum, 150);
     QCOMPARE(spin(&dialog, "m_markBest")->minimum(), -1);
 }
 
@@ -235,8 +231,8 @@ void SliderViewTest::enabledBoxes()
     child<QCheckBox>(&dialog, "def_extend")->setChecked(false);
     QVERIFY(!slider(&dialog, "m_extendedSlider")->isExtended());
     child<QCheckBox>(&dialog, "def_fill")->setChecked(false);
-    child<QCheckBox>(&dialog, "def_fill")->setChecked(true);
-    QVERIFY(slider(&dialog, "m_vnSlider")->isSubPageFilled());
+    QVERIFY(!slider(&dialog, "m_vnSlider")->isSubPageFilled());
+    QVERIFY(!slider(&dialog, "m_extendedSlider")->isSubPageFilled());
     child<QCheckBox>(&dialog, "vert_enabled")->setChecked(false);
     QVERIFY(!child<QSlider>(&dialog, "m_verticalQSlider")->isEnabled());
     QVERIFY(!slider(&dialog, "m_verticalVNSlider")->isEnabled());

@@ -56,7 +56,6 @@ private slots:
     void zoneColours_data();
     void zoneColours();
     void bestMarkAboveGroove();
-    void admissibleHandlesBelowGroove();
     void draggingAdmissibleHandle_data();
     void draggingAdmissibleHandle();
     void valueDragRespectsTrackingAndSublimit();
@@ -102,17 +101,6 @@ void VNSliderTest::bestMarkAboveGroove()
     const QImage moved = slider.grab().toImage();
     QCOMPARE(pixel(moved, slider.pixelPosition(20), above), best);
     QVERIFY(pixel(moved, slider.pixelPosition(55), above) != best);
-}
-
-void VNSliderTest::admissibleHandlesBelowGroove()
-{
-    VNSlider slider(Qt::Horizontal);
-    makeSigmaSlider(slider);
-    const QImage image = slider.grab().toImage();
-    const int below = slider.grooveRect().bottom() + 6;
-    QCOMPARE(pixel(image, slider.pixelPosition(5), below), admissible);
-    QCOMPARE(pixel(image, slider.pixelPosition(95), below), admissible);
-    QVERIFY(pixel(image, slider.pixelPosition(50), below) != admissible);
 }
 
 void VNSliderTest::draggingAdmissibleHandle_data()
