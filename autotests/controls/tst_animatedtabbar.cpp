@@ -206,6 +206,9 @@ void TestAnimatedTabBar::indicatorSlides()
     animation->setCurrentTime(animation->duration());
     QCOMPARE(bar.indicatorRect().left(), qreal(bar.tabRect(3).left()));
     QCOMPARE(bar.indicatorRect().width(), qreal(bar.tabRect(3).width()));
+    bar.removeTab(0);
+    animation->setCurrentTime(animation->duration());
+    QCOMPARE(bar.indicatorRect().left(), qreal(bar.tabRect(2).left()));
 }
 
 void TestAnimatedTabBar::tabMenus_data()

@@ -35,7 +35,6 @@ private slots:
 
     void insertionOrder();
     void enableCheckBoxReachesEveryButton();
-    void countsAreNotRefreshed();
     void buttonsAreExclusive();
     void fixedFontSizeIgnoresParentFont();
     void launcherOpensNewSwitcherEveryClick();
@@ -61,6 +60,9 @@ void TestResultSwitcher::insertionOrder()
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     const auto gapBefore = [multi](int i) { return multi->button(i)->x() - multi->button(i - 1)->geometry().right(); };
     QVERIFY(gapBefore(5) > gapBefore(4) + 4);
+    // The counts are written once: a button added later leaves them.
+    addZebraButton(dialog.findChild<VNResultSwitcher*>("m_resultSwitcherSingle"));
+    QCOMPARE(dialog.findChild<VNLabel*>("m_countSingle")->text(), QStringLiteral("1"));
 }
 
 void TestResultSwitcher::enableCheckBoxReachesEveryButton()
@@ -75,15 +77,6 @@ void TestResultSwitcher::enableCheckBoxReachesEveryButton()
     enable->click();
     for (QToolButton* button : buttons)
         QVERIFY(button->isEnabled());
-}
-
-void TestResultSwitcher::countsAreNotRefreshed()
-{
-    TestVNResultSwitcher dialog(nullptr);
-    auto* single = dialog.findChild<VNResultSwitcher*>("m_resultSwitcherSingle");
-    addZebraButton(single);
-    QCOMPARE(single->count(), 2);
-    QCOMPARE(dialog.findChild<VNLabel*>("m_countSingle")->text(), QStringLiteral("1"));
 }
 
 // One button is checked at a time; removing it checks the first one left.
