@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "TestVNAnimatedTabBar.h"
 
 #include <VNAnimatedOPTabBar.h>
@@ -6,49 +7,37 @@
 #include <VNTabBar.h>
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <QVariantAnimation>
 
 namespace {
+template<typename Bar>
+QStringList texts(const Bar* bar)
+{
+    QStringList result;
+    for (int i = 0; i < bar->count(); ++i)
+        result.append(bar->tabText(i));
+    return result;
+}
+
 struct Bars
 {
     explicit Bars(QWidget* dialog)
-        : plain(dialog->findChild<VNTabBar*>())
-        , animated(dialog->findChild<VNAnimatedTabBar*>("m_animatedTabBar"))
-        , op(dialog->findChild<VNAnimatedOPTabBar*>())
-        , add(button(dialog, "Add Tab"))
-        , remove(button(dialog, "Remove Tab"))
-        , arrows(button(dialog, "Use Arrows"))
-        , mirror(button(dialog, "Mirror Arrows"))
+        : plain(child<VNTabBar>(dialog, "m_tabBar"))
+        , animated(child<VNAnimatedTabBar>(dialog, "m_animatedTabBar"))
+        , op(child<VNAnimatedOPTabBar>(dialog, "m_opTabBar"))
+        , add(child<QPushButton>(dialog, "m_addBtn"))
+        , remove(child<QPushButton>(dialog, "m_removeBtn"))
+        , arrows(child<QPushButton>(dialog, "m_useArrowsBtn"))
+        , mirror(child<QPushButton>(dialog, "m_mirrorArrowsBtn"))
     {}
 
-    static QPushButton* button(QWidget* dialog, const QString& text)
-    {
-        for (QPushButton* candidate : dialog->findChildren<QPushButton*>()) {
-            if (candidate->text() == text)
-                return candidate;
-        }
-        return nullptr;
-    }
-
-    QStringList texts(const VNAnimatedTabBar* bar) const
-    {
-        QStringList result;
-        for (int i = 0; i < bar->count(); ++i)
-            result.append(bar->tabText(i));
-        return result;
-    }
-    QStringList plainTexts() const
-    {
-        QStringList result;
-        for (int i = 0; i < plain->count(); ++i)
-            result.append(plain->tabText(i));
-        return result;
-    }
     QList<int> currents() const { return {plain->currentIndex(), animated->currentIndex(), op->currentIndex()}; }
 
     VNTabBar* plain;
@@ -61,6 +50,31 @@ struct Bars
 };
 
 const QStringList sampleTabs = {"PL", "(F-40)", "D-20", "(T40)"};
+
+struct Popup
+{
+    QStringList entries; // "--" for a separator
+    QPoint position;
+};
+
+// What pops up while `open` runs: its entries and place, read before it is closed again.
+Popup popupDuring(const std::function<void()>& open)
+{
+    Popup popup;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&popup] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (!menu)
+            return;
+        for (QAction* action : menu->actions())
+            popup.entries << (action->isSeparator() ? QStringLiteral("--") : action->text());
+        popup.position = menu->pos();
+        menu->close();
+    });
+    poll.start(10);
+    open();
+    return popup;
+}
 } // namespace
 
 class TestAnimatedTabBar : public QObject
@@ -77,7 +91,8 @@ private slots:
     void closeRemovesFromAnimatedBarsOnly();
     void arrowsSwitchAndMirror();
     void indicatorSlides();
-    void indexAtPosition();
+    void tabMenus_data();
+    void tabMenus();
     void lockedOperationIsNotSelectable();
     void statusAndDarkStyleArePainted();
     void firstTabKeepsPreferredWidth();
@@ -88,26 +103,13 @@ void TestAnimatedTabBar::cleanup()
     QVERIFY(QApplication::topLevelWidgets().isEmpty());
 }
 
+// The sample states are in the screenshot baseline; what the add button does is not.
 void TestAnimatedTabBar::sampleStates()
 {
     TestVNAnimatedTabBar dialog(nullptr);
-    Bars bars(&dialog);
-    QCOMPARE(bars.animated->buttons().size(), 1);
-    QToolButton* add = bars.animated->buttons().first();
+    QToolButton* add = Bars(&dialog).animated->buttons().first();
     QCOMPARE(add->menu()->actions(), QList<QAction*>({add->defaultAction()}));
-    QVERIFY(bars.animated->hasMenuButton(3));
-    QVERIFY(!bars.animated->hasMenuButton(2));
-    VNAnimatedOPTabBar* op = bars.op;
-    QCOMPARE(op->operationStates(1), VNAnimatedOPTabBar::SemiLocked);
-    QCOMPARE(op->operationStates(2), VNAnimatedOPTabBar::Cycled);
-    QCOMPARE(op->operationStates(3), VNAnimatedOPTabBar::Skipped);
-    QVERIFY(!op->hasImageAfterTab(0));
-    QVERIFY(op->hasImageAfterTab(1));
-    QVERIFY(op->isDarkStyle(0));
-    QCOMPARE(op->markedIndex(), 2);
-    QVERIFY(op->isFixFirstWidthPreferred());
-    QVERIFY(op->hasCloseButton(2));
-    QCOMPARE(int(op->widgetStatus(1)), 0x20);
+    QCOMPARE(add->popupMode(), QToolButton::MenuButtonPopup);
 }
 
 void TestAnimatedTabBar::currentTabFollowsOnAllBars()
@@ -131,8 +133,8 @@ void TestAnimatedTabBar::addNumbersFromPlainCount()
     bars.remove->click();
     bars.remove->click();
     bars.add->click();
-    QCOMPARE(bars.plainTexts().last(), QStringLiteral("(D-3)"));
-    QCOMPARE(bars.texts(bars.op).last(), QStringLiteral("(D-3)"));
+    QCOMPARE(texts(bars.plain).last(), QStringLiteral("(D-3)"));
+    QCOMPARE(texts(bars.op).last(), QStringLiteral("(D-3)"));
 }
 
 void TestAnimatedTabBar::removeOnEmptyBarsIsHarmless()
@@ -163,9 +165,9 @@ void TestAnimatedTabBar::closeRemovesFromAnimatedBarsOnly()
     QSignalSpy closed(bars.op, &VNAnimatedTabBar::closeButtonClicked);
     QTest::mouseClick(bars.op, Qt::LeftButton, {}, bars.op->closeButtonRect(2).center());
     QCOMPARE(closed.count(), 1);
-    QCOMPARE(bars.plainTexts(), sampleTabs);
-    QCOMPARE(bars.texts(bars.animated), QStringList({"PL", "(F-40)", "(T40)"}));
-    QCOMPARE(bars.texts(bars.op), QStringList({"PL", "(F-40)", "(T40)"}));
+    QCOMPARE(texts(bars.plain), sampleTabs);
+    QCOMPARE(texts(bars.animated), QStringList({"PL", "(F-40)", "(T40)"}));
+    QCOMPARE(texts(bars.op), QStringList({"PL", "(F-40)", "(T40)"}));
     QCOMPARE(bars.op->operationStates(2), VNAnimatedOPTabBar::Skipped);
 }
 
@@ -205,16 +207,53 @@ void TestAnimatedTabBar::indicatorSlides()
     animation->setCurrentTime(animation->duration());
     QCOMPARE(bar.indicatorRect().left(), qreal(bar.tabRect(3).left()));
     QCOMPARE(bar.indicatorRect().width(), qreal(bar.tabRect(3).width()));
+    bar.removeTab(0);
+    animation->setCurrentTime(animation->duration());
+    QCOMPARE(bar.indicatorRect().left(), qreal(bar.tabRect(2).left()));
 }
 
-void TestAnimatedTabBar::indexAtPosition()
+void TestAnimatedTabBar::tabMenus_data()
 {
-    VNAnimatedTabBar bar;
-    bar.addTab(QStringLiteral("A"));
-    bar.addTab(QStringLiteral("B"));
-    bar.resize(400, 30);
-    QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(bar.tabRect(1).center())), 1);
-    QCOMPARE(bar.getIndexAtPosition(bar.mapToGlobal(QPoint(390, 15))), -1);
+    QTest::addColumn<bool>("contextMenu");
+    QTest::addColumn<int>("tab"); // -1: beside the tabs
+    QTest::addColumn<QStringList>("entries");
+    const QStringList tabMenu{"Test1", "--", "Test2", "--", "Test3"};
+    QTest::newRow("menu button of the last tab") << false << 3 << tabMenu;
+    QTest::newRow("menu button of the first tab") << false << 0 << tabMenu;
+    QTest::newRow("menu for no tab") << false << -1 << QStringList();
+    QTest::newRow("context menu over a tab") << true << 1 << QStringList({"Test1", "Test2"});
+    QTest::newRow("context menu over the first tab") << true << 0 << QStringList({"Test1", "Test2"});
+    QTest::newRow("context menu beside the tabs") << true << -1 << QStringList();
+}
+
+void TestAnimatedTabBar::tabMenus()
+{
+    QFETCH(bool, contextMenu);
+    QFETCH(int, tab);
+    QFETCH(QStringList, entries);
+    TestVNAnimatedTabBar dialog(nullptr);
+    Bars bars(&dialog);
+    dialog.resize(600, 300);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    VNAnimatedTabBar* bar = bars.animated;
+    bar->useMenuButton(0, true);
+    const QPoint beside(bar->tabRect(3).right() + 4, bar->tabRect(3).center().y());
+    QCOMPARE(bar->getIndexAtPosition(bar->mapToGlobal(beside)), -1);
+    const QPoint at = tab < 0 ? beside : bar->tabRect(tab).center();
+    const Popup popup = popupDuring([&] {
+        if (contextMenu) {
+            QContextMenuEvent event(QContextMenuEvent::Mouse, at, bar->mapToGlobal(at));
+            QApplication::sendEvent(bar, &event);
+        } else if (tab < 0) {
+            QMetaObject::invokeMethod(&dialog, "menuButtonClicked", Q_ARG(int, -1));
+        } else {
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->menuButtonRect(tab).center());
+        }
+    });
+    QCOMPARE(popup.entries, entries);
+    if (tab >= 0)
+        QCOMPARE(popup.position, bar->mapToGlobal(contextMenu ? at : bar->tabRect(tab).bottomLeft()));
 }
 
 void TestAnimatedTabBar::lockedOperationIsNotSelectable()

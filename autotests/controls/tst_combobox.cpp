@@ -14,6 +14,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -32,6 +33,33 @@ QStringList texts(const QComboBox* combo)
         result << combo->itemText(i);
     return result;
 }
+
+// Every entry of a groupable box, depth first: a child behind its group, with its data.
+QStringList groupEntries(const QAbstractItemModel* model, const QModelIndex& parent = QModelIndex())
+{
+    QStringList result;
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        const QVariant data = index.data(Qt::UserRole);
+        result << (parent.isValid() ? parent.data().toString() + '/' : QString()) + index.data().toString() +
+                      (data.isValid() ? '=' + data.toString() : QString());
+        result << groupEntries(model, index);
+    }
+    return result;
+}
+
+const QStringList groupSample{"Group1",
+                              "Group1/Child1=0",
+                              "Group1/Child 02=1",
+                              "Group1/Child 03=2",
+                              "Group1/Child 04=3",
+                              "Group1/Child 05=4",
+                              "ItemWithoutGroup",
+                              "Group2",
+                              "Group2/Child 11=0",
+                              "Group2/Child 12=1",
+                              "Group2/Child 13=2",
+                              "Group2/Child 14=3"};
 } // namespace
 
 class ComboBoxTest : public QObject
@@ -55,7 +83,8 @@ private slots:
     void degreeSpecialValues_data();
     void degreeSpecialValues();
     void degreeFieldSelectsAllOnFocus();
-    void groupableStartsAtSecondChildOfGroup2();
+    void groupableDeleteCurrent_data();
+    void groupableDeleteCurrent();
     void groupablePopupCollapsesAndSelects();
     void filterComboFiltersWhileTyping();
     void loupeMovesIntoComboBoxTest();
@@ -70,7 +99,14 @@ void ComboBoxTest::cleanup()
 void ComboBoxTest::standardItemsAndIcons()
 {
     TestComboBox dialog(nullptr);
-    QVERIFY(!dialog.findChild<VNFilterComboBox*>()->itemIcon(0).isNull());
+    auto* filter = dialog.findChild<VNFilterComboBox*>();
+    QVERIFY(!filter->itemIcon(0).isNull());
+    // The filter box sits below the form's last row, at its start, where scripts look for it.
+    auto* layout = child<QGridLayout>(&dialog, "gridLayout");
+    int at[4] = {};
+    layout->getItemPosition(layout->indexOf(filter), &at[0], &at[1], &at[2], &at[3]);
+    QCOMPARE(QList<int>({at[0], at[1], at[2], at[3]}), QList<int>({14, 0, 1, 1}));
+    QCOMPARE(layout->itemAtPosition(13, 1)->widget()->objectName(), QString("groupableCB"));
     auto* withIcons = child<QComboBox>(&dialog, "comboBox_3");
     QVERIFY(!withIcons->itemIcon(0).pixmap(16).isNull());
     QVERIFY(!withIcons->itemIcon(1).pixmap(16).isNull());
@@ -84,8 +120,9 @@ void ComboBoxTest::standardItemsAndIcons()
     QCOMPARE(empty->count(), 0);
     QVERIFY(empty->isNeedInputStatus());
     QCOMPARE(empty->property("statusLook").toString(), QString("needInput"));
+    child<QComboBox>(&dialog, "m_widgetStatusCB")->setCurrentIndex(2);
     clickButton(&dialog, "add");
-    QCOMPARE(empty->property("statusLook").toString(), QString("undef"));
+    QCOMPARE(empty->property("statusLook").toString(), QString("userEdit"));
 }
 
 void ComboBoxTest::addEntryUsesDefaultAndCurrentStatus()
@@ -126,6 +163,12 @@ void ComboBoxTest::restoreRefillsEverything()
     QCOMPARE(child<QComboBox>(&dialog, "comboBox_2")->count(), 0);
     QCOMPARE(child<QComboBox>(&dialog, "groupableCB")->count(), 0);
     clickButton(&dialog, "addSeparator");
+    for (QComboBox* combo : dialog.findChildren<QComboBox*>()) {
+        const bool bulk = combo->objectName() != QLatin1String("vnDoubleComboBox");
+        const QString last = combo->itemData(combo->count() - 1, Qt::AccessibleDescriptionRole).toString();
+        QVERIFY2((last == QLatin1String("separator")) == bulk, qPrintable(combo->objectName()));
+        QCOMPARE(combo->count(), bulk ? 1 : 5);
+    }
     clickButton(&dialog, "restore");
     for (const char* name : {"comboDeg", "vnUnitComboBox", "comboBox_2", "comboBox_10"})
         QCOMPARE(texts(child<QComboBox>(&dialog, name)), standardItems);
@@ -133,8 +176,16 @@ void ComboBoxTest::restoreRefillsEverything()
     QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB")->count(), 7);
     QCOMPARE(child<QComboBox>(&dialog, "m_widgetStatusCB_2")->count(), 0);
     auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
-    QCOMPARE(groups->count(), 3);
+    // The groups as the dialog starts: headings in bold that cannot be chosen, the second child
+    // of the second group current.
+    QCOMPARE(groupEntries(groups->model()), groupSample);
     QCOMPARE(groups->currentText(), QString("Child 12"));
+    QCOMPARE(QList<int>({groups->currentTopLevelRow(), groups->currentChildRow()}), QList<int>({2, 1}));
+    QCOMPARE(groups->currentData().toInt(), 1);
+    const QModelIndex group1 = groups->model()->index(0, 0);
+    QCOMPARE(groups->model()->flags(group1), Qt::ItemIsEnabled);
+    QVERIFY(group1.data(Qt::FontRole).value<QFont>().bold());
+    QVERIFY(groups->model()->flags(groups->model()->index(1, 0)) & Qt::ItemIsSelectable);
 }
 
 void ComboBoxTest::styleRadios_data()
@@ -153,7 +204,9 @@ void ComboBoxTest::styleRadios()
     dialog.show();
     auto* combo = child<VNComboBox>(&dialog, "comboBox_3");
     const QImage before = combo->grab().toImage();
+    const int width = combo->sizeHint().width();
     dialog.findChild<QRadioButton*>(radio)->click();
+    QCOMPARE(combo->sizeHint().width() < width, style == VNComboBox::IconOnly);
     for (VNComboBox* vnCombo : dialog.findChildren<VNComboBox*>()) {
         if (vnCombo->objectName() != QLatin1String("vnDoubleComboBox"))
             QCOMPARE(int(vnCombo->comboBoxStyle()), style);
@@ -167,28 +220,25 @@ void ComboBoxTest::styleRadios()
 void ComboBoxTest::statusListShowsCurrentStatus_data()
 {
     QTest::addColumn<int>("index");
-    QTest::addColumn<QString>("text");
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("look");
-    QTest::newRow("undef") << 0 << "undef" << 0 << "undef";
-    QTest::newRow("needInput") << 1 << "needInput" << 0x20 << "needInput";
-    QTest::newRow("userEdit") << 2 << "userEdit" << 0x2 << "userEdit";
-    QTest::newRow("compareDifferent") << 3 << "compareDifferent" << 0x800 << "undef";
-    QTest::newRow("different") << 4 << "different" << 0x400 << "different";
-    QTest::newRow("standardDefined") << 5 << "standardDefined" << 0x2000 << "standardDefined";
-    QTest::newRow("standardChanged") << 6 << "standardChanged" << 0x12000 << "standardChanged";
+    QTest::newRow("undef") << 0 << 0 << "undef";
+    QTest::newRow("needInput") << 1 << 0x20 << "needInput";
+    QTest::newRow("userEdit") << 2 << 0x2 << "userEdit";
+    QTest::newRow("compareDifferent") << 3 << 0x800 << "undef";
+    QTest::newRow("different") << 4 << 0x400 << "different";
+    QTest::newRow("standardDefined") << 5 << 0x2000 << "standardDefined";
+    QTest::newRow("standardChanged") << 6 << 0x12000 << "standardChanged";
 }
 
 void ComboBoxTest::statusListShowsCurrentStatus()
 {
     QFETCH(int, index);
-    QFETCH(QString, text);
     QFETCH(int, status);
     QFETCH(QString, look);
     TestComboBox dialog(nullptr);
     auto* combo = child<VNComboBox>(&dialog, "m_widgetStatusCB");
     combo->setCurrentIndex(index);
-    QCOMPARE(combo->currentText(), text);
     QCOMPARE(int(combo->getWidgetStatusOfCurrent()), status);
     QCOMPARE(int(combo->getWidgetStatus()), status);
     QCOMPARE(combo->property("statusLook").toString(), look);
@@ -230,6 +280,11 @@ void ComboBoxTest::numberComboItems()
     QCOMPARE(VNFormatter().valueFromText(numbers->itemText(2)), 0.5);
     auto* millimetres = child<VNComboBoxDoubleInput>(&dialog, "vnUnitComboBox");
     QCOMPARE(millimetres->formatter()->valueFromText(millimetres->itemText(2)), 25.0);
+    QTest::keyClick(millimetres, Qt::Key_Down);
+    QCOMPARE(millimetres->value(), 10.0);
+    millimetres->setValueUnit("cm");
+    QCOMPARE(millimetres->itemText(2), millimetres->formatter()->textFromValue(25, true));
+    QVERIFY(millimetres->itemText(2).endsWith("cm"));
 }
 
 void ComboBoxTest::unitComboParsesUnits_data()
@@ -254,6 +309,7 @@ void ComboBoxTest::unitComboParsesUnits()
     QCOMPARE(spy.last().first().toDouble(), millimetres);
     QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
     QCOMPARE(combo->value(), millimetres);
+    QCOMPARE(combo->lineEdit()->text(), combo->formatter()->textFromValue(millimetres, true));
 }
 
 void ComboBoxTest::degreeSpecialValues_data()
@@ -273,9 +329,12 @@ void ComboBoxTest::degreeSpecialValues()
     TestComboBox dialog(nullptr);
     auto* degrees = child<VNComboBoxDoubleInput>(&dialog, "comboDeg");
     clickButton(&dialog, "add");
-    degrees->setCurrentIndex(index);
-    emit degrees->activated(index);
+    degrees->setCurrentIndex(index == 0 ? 1 : index - 1);
+    QTest::keyClick(degrees, index == 0 ? Qt::Key_Up : Qt::Key_Down);
     QCOMPARE(child<QLabel>(&dialog, "comboOutput")->text(), output);
+    const QString typed = degrees->itemText(index).toLower();
+    degrees->lineEdit()->clear();
+    QTest::keyClicks(degrees->lineEdit(), typed);
     QCOMPARE(degrees->specialValueId(), index < 3 ? index : -1);
 }
 
@@ -293,20 +352,36 @@ void ComboBoxTest::degreeFieldSelectsAllOnFocus()
     QVERIFY(child<QLabel>(&dialog, "comboOutput")->text().startsWith("45"));
 }
 
-void ComboBoxTest::groupableStartsAtSecondChildOfGroup2()
+void ComboBoxTest::groupableDeleteCurrent_data()
 {
+    QTest::addColumn<int>("topLevelRow");
+    QTest::addColumn<int>("childRow");
+    QTest::addColumn<QString>("removed");
+    QTest::newRow("child of the second group") << 2 << 1 << "Group2/Child 12=1";
+    QTest::newRow("first child") << 0 << 0 << "Group1/Child1=0";
+    QTest::newRow("last child") << 0 << 4 << "Group1/Child 05=4";
+    QTest::newRow("entry without group") << 1 << -1 << "ItemWithoutGroup";
+}
+
+// "Delete Current" removes the chosen entry, wherever it sits; the other boxes lose theirs.
+void ComboBoxTest::groupableDeleteCurrent()
+{
+    QFETCH(int, topLevelRow);
+    QFETCH(int, childRow);
+    QFETCH(QString, removed);
     TestComboBox dialog(nullptr);
     auto* groups = child<VNGroupableComboBox>(&dialog, "groupableCB");
-    QCOMPARE(groups->currentText(), QString("Child 12"));
-    QCOMPARE(groups->currentTopLevelRow(), 2);
-    QCOMPARE(groups->currentChildRow(), 1);
-    QCOMPARE(groups->currentData().toInt(), 1);
-    QAbstractItemModel* model = groups->model();
-    QCOMPARE(model->rowCount(), 3);
-    QCOMPARE(model->rowCount(model->index(0, 0)), 5);
-    QCOMPARE(model->index(4, 0, model->index(0, 0)).data().toString(), QString("Child 05"));
-    QCOMPARE(model->rowCount(model->index(1, 0)), 0);
-    QCOMPARE(model->index(3, 0, model->index(2, 0)).data(Qt::UserRole).toInt(), 3);
+    groups->setCurrentGroupIndex(topLevelRow, childRow);
+    QCOMPARE(groups->currentTopLevelRow(), topLevelRow);
+    QCOMPARE(groups->currentChildRow(), childRow);
+    auto* plain = child<QComboBox>(&dialog, "comboBox_2");
+    plain->setCurrentIndex(2);
+    clickButton(&dialog, "deleteCurrent");
+    QStringList expected = groupSample;
+    expected.removeOne(removed);
+    QCOMPARE(groupEntries(groups->model()), expected);
+    QCOMPARE(texts(plain), QStringList({"Entry 1", "A longer Entry 2", "3"}));
+    QCOMPARE(texts(dialog.findChild<VNFilterComboBox*>()), QStringList(standardItems.mid(1)));
 }
 
 void ComboBoxTest::groupablePopupCollapsesAndSelects()
@@ -334,6 +409,13 @@ void ComboBoxTest::groupablePopupCollapsesAndSelects()
     QTRY_VERIFY(!tree->isVisible());
     QCOMPARE(groups->currentText(), QString("Child 03"));
     QCOMPARE(spy.last(), QList<QVariant>({0, 2}));
+
+    groups->showPopup();
+    QTRY_VERIFY(tree->isVisible());
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(groups->model()->index(1, 0)).center());
+    QTRY_VERIFY(!tree->isVisible());
+    QCOMPARE(groups->currentText(), QString("ItemWithoutGroup"));
+    QCOMPARE(spy.last(), QList<QVariant>({1, -1}));
 }
 
 void ComboBoxTest::filterComboFiltersWhileTyping()

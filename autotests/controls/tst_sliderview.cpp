@@ -66,10 +66,6 @@ void SliderViewTest::seededSigmaSlider()
     QCOMPARE(sigma->admissibleRange().minimum, 5);
     QCOMPARE(sigma->admissibleRange().maximum, 95);
     QCOMPARE(sigma->bestMark(), 55);
-    VNSlider* span = slider(&dialog, "m_spanSlider");
-    QVERIFY(span->isSpanSlider());
-    QCOMPARE(span->admissibleRange().minimum, 30);
-    QCOMPARE(span->admissibleRange().maximum, 150);
     QCOMPARE(spin(&dialog, "m_markBest")->minimum(), -1);
 }
 
@@ -120,12 +116,19 @@ void SliderViewTest::minimumDoesNotClampRecord()
     QCOMPARE(spin(&dialog, "m_current")->minimum(), 60);
     QCOMPARE(spin(&dialog, "m_markBest")->minimum(), 60);
     QCOMPARE(spy.count(), 0);
+    // The best field clamps to the new minimum and the mark follows it; the sublimit stays.
+    QCOMPARE(spin(&dialog, "m_markBest")->value(), 60);
+    QCOMPARE(sigma->bestMark(), 60);
+    QCOMPARE(sigma->currentSublimit().minimum, 0);
+    spin(&dialog, "m_min")->setValue(0);
+    QCOMPARE(sigma->bestMark(), 60);
     spin(&dialog, "m_sublimitMin")->setValue(1);
     QCOMPARE(sigma->admissibleRange().minimum, 5);
     QCOMPARE(sigma->currentSublimit().minimum, 1);
     spin(&dialog, "m_max")->setValue(80);
     QCOMPARE(sigma->maximum(), 80);
     QCOMPARE(spin(&dialog, "m_markBest")->maximum(), 80);
+    QCOMPARE(spin(&dialog, "m_current")->maximum(), 80);
 }
 
 void SliderViewTest::bestAcceptsMinusOne()
@@ -228,8 +231,8 @@ void SliderViewTest::enabledBoxes()
     child<QCheckBox>(&dialog, "def_extend")->setChecked(false);
     QVERIFY(!slider(&dialog, "m_extendedSlider")->isExtended());
     child<QCheckBox>(&dialog, "def_fill")->setChecked(false);
-    child<QCheckBox>(&dialog, "def_fill")->setChecked(true);
-    QVERIFY(slider(&dialog, "m_vnSlider")->isSubPageFilled());
+    QVERIFY(!slider(&dialog, "m_vnSlider")->isSubPageFilled());
+    QVERIFY(!slider(&dialog, "m_extendedSlider")->isSubPageFilled());
     child<QCheckBox>(&dialog, "vert_enabled")->setChecked(false);
     QVERIFY(!child<QSlider>(&dialog, "m_verticalQSlider")->isEnabled());
     QVERIFY(!slider(&dialog, "m_verticalVNSlider")->isEnabled());

@@ -63,8 +63,6 @@ class MessageBoxTest : public QObject
 private slots:
     void cleanup();
     void staticFunctionReturnsPressedButton();
-    void escape_data();
-    void escape();
     void escapeLikeQt();
     void escapeWithoutEscapeButtonClosesThroughOpenTitleBar();
     void testDialogButtons_data();
@@ -119,44 +117,6 @@ int qtEscape(QMessageBox::StandardButtons buttons)
 }
 } // namespace
 
-void MessageBoxTest::escape_data()
-{
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<int>("answer");
-    for (QMessageBox::StandardButton single : everyButton)
-        QTest::addRow("only %x", int(single)) << int(single) << int(single);
-    using B = QMessageBox;
-    const struct
-    {
-        const char* name;
-        QMessageBox::StandardButtons buttons;
-        int answer;
-    } sets[] = {
-        {"Ok Cancel", B::Ok | B::Cancel, B::Cancel},
-        {"Yes No", B::Yes | B::No, B::No},
-        {"Yes No Cancel", B::Yes | B::No | B::Cancel, B::Cancel},
-        {"Save Discard Cancel", B::Save | B::Discard | B::Cancel, B::Cancel},
-        {"Abort Retry Ignore", B::Abort | B::Retry | B::Ignore, B::Abort},
-        {"Retry Cancel", B::Retry | B::Cancel, B::Cancel},
-        {"Ok Close", B::Ok | B::Close, B::Close},
-        {"Yes YesToAll No NoToAll", B::Yes | B::YesToAll | B::No | B::NoToAll, -1},
-        {"Close Abort", B::Close | B::Abort, -1},
-        {"Close Abort No", B::Close | B::Abort | B::No, B::No},
-        {"Retry Ignore", B::Retry | B::Ignore, -1},
-        {"Ok Apply", B::Ok | B::Apply, -1},
-        {"Ok Help", B::Ok | B::Help, -1},
-    };
-    for (const auto& set : sets)
-        QTest::newRow(set.name) << int(set.buttons) << set.answer;
-}
-
-void MessageBoxTest::escape()
-{
-    QFETCH(int, buttons);
-    QFETCH(int, answer);
-    QCOMPARE(toolkitEscape(QMessageBox::StandardButtons(buttons)), answer);
-}
-
 // Every set of up to three standard buttons: Escape answers as on Qt's own message box.
 void MessageBoxTest::escapeLikeQt()
 {
@@ -184,25 +144,20 @@ void MessageBoxTest::escapeWithoutEscapeButtonClosesThroughOpenTitleBar()
 void MessageBoxTest::testDialogButtons_data()
 {
     QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("label");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("closeButton");
     QTest::newRow("default") << "m_btn_def"
-                             << "new default MessageBox"
                              << "This is a default message box" << true;
     QTest::newRow("without close") << "m_btn_noclose"
-                                   << "new MessageBox without close option"
                                    << "This message box must not be closeable" << false;
 }
 
 void MessageBoxTest::testDialogButtons()
 {
     QFETCH(QString, button);
-    QFETCH(QString, label);
     QFETCH(QString, text);
     QFETCH(bool, closeButton);
     TestVNMessageBox dialog(nullptr);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Dialog"));
     dialog.show();
     SeenBox seen;
     bool escapeClosed = false;
@@ -212,9 +167,7 @@ void MessageBoxTest::testDialogButtons()
         QTest::keyClick(box, Qt::Key_Escape); // the only button is Ok, so Escape acts as Ok
         escapeClosed = !box->isVisible();
     });
-    auto* launch = dialog.findChild<QPushButton*>(button);
-    QCOMPARE(launch->text(), label);
-    launch->click();
+    dialog.findChild<QPushButton*>(button)->click();
     QVERIFY(escapeClosed);
     QCOMPARE(seen.title, QStringLiteral("Warning"));
     QCOMPARE(seen.text, text);

@@ -28,6 +28,19 @@ const StatusEntry statusList[] = {
     {QT_TRANSLATE_NOOP("TestComboBoxClass", "standardChanged"), VNWidgetStatus::standardChanged},
 };
 
+// QComboBox counts rows under its root only, so the row of a grouped entry names another entry
+// there: a groupable box's entry is removed by its place in the groups.
+void removeCurrentItem(QComboBox* combo)
+{
+    auto* groupable = qobject_cast<VNGroupableComboBox*>(combo);
+    if (groupable && groupable->currentChildRow() >= 0) {
+        const QModelIndex group = combo->model()->index(groupable->currentTopLevelRow(), combo->modelColumn());
+        combo->model()->removeRow(groupable->currentChildRow(), group);
+        return;
+    }
+    combo->removeItem(combo->currentIndex());
+}
+
 QIcon iconFromFile(const QString& path)
 {
     QIcon icon;
@@ -155,7 +168,7 @@ void TestComboBox::on_add_clicked()
 void TestComboBox::on_deleteCurrent_clicked()
 {
     for (QComboBox* combo : bulkComboBoxes())
-        combo->removeItem(combo->currentIndex());
+        removeCurrentItem(combo);
 }
 
 void TestComboBox::on_deleteAll_clicked()
