@@ -101,25 +101,16 @@ void TestItemViewToolkit::headerRichTextDrawsSubscript()
     header.resizeSection(0, 120);
     header.resizeSection(1, 120);
     const QImage image = header.grab().toImage();
-    auto lowestInk = [&image](int left, int right, int* firstInk) {
+    auto lowestInk = [&image](int left, int right) {
         int lowest = -1;
-        *firstInk = -1;
         for (int y = 0; y < image.height() - 4; ++y)
             for (int x = left; x < right; ++x)
-                if (qGray(image.pixel(x, y)) < 100) {
-                    lowest = y;
-                    if (*firstInk < 0)
-                        *firstInk = y;
-                }
+                lowest = qGray(image.pixel(x, y)) < 100 ? y : lowest;
         return lowest;
     };
-    int plainTop = 0;
-    int richTop = 0;
-    const int plainBottom = lowestInk(2, 118, &plainTop);
-    const int richBottom = lowestInk(122, 238, &richTop);
+    const int plainBottom = lowestInk(2, 118);
     QVERIFY(plainBottom > 0);
-    QVERIFY2(richBottom > plainBottom, qPrintable(QStringLiteral("%1 vs %2").arg(richBottom).arg(plainBottom)));
-    QVERIFY(!QString(QStringLiteral("<sub>")).isEmpty());
+    QVERIFY(lowestInk(122, 238) > plainBottom);
 }
 
 void TestItemViewToolkit::headerSelection()
@@ -140,6 +131,10 @@ void TestItemViewToolkit::headerSelection()
     const int section1 = header.sectionViewportPosition(1);
     QVERIFY(countPixels(image, QRect(section2, 0, header.sectionSize(2), 30), QColor(0xcf, 0xe2, 0xf7)) > 100);
     QCOMPARE(countPixels(image, QRect(section1, 0, header.sectionSize(1), 30), QColor(0xcf, 0xe2, 0xf7)), 0);
+    header.setSelectable(false, 2); // no longer selectable: no longer selected either
+    QCOMPARE(header.selectedSections(), QList<int>{});
+    header.setSelectable(true, 2);
+    QCOMPARE(header.selectedSections(), QList<int>{});
     // The padding argument widens every section by its width.
     VNCustomHeaderView plain(Qt::Horizontal, QSize(0, 0));
     plain.setModel(&model);
@@ -159,11 +154,20 @@ void TestItemViewToolkit::headerCheckBoxFollowsRows()
     QCOMPARE(header->checkBoxState(), Qt::Unchecked);
     tree.topLevelItem(0)->setCheckState(0, Qt::Checked);
     QCOMPARE(header->checkBoxState(), Qt::PartiallyChecked);
-    emit header->checkBoxClicked(Qt::Checked);
+    tree.resize(300, 200);
+    tree.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&tree));
+    QVERIFY(header->checkBoxRect().center().x() > header->sectionSize(0) / 2);
+    // A click beside the box changes nothing; on a partly checked box it checks every row, then
+    // unchecks them.
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(4, header->height() / 2));
+    QCOMPARE(tree.topLevelItem(1)->checkState(0), Qt::Unchecked);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, header->checkBoxRect().center());
     QCOMPARE(tree.topLevelItem(1)->checkState(0), Qt::Checked);
     QCOMPARE(header->checkBoxState(), Qt::Checked);
-    tree.resize(300, 200);
-    QVERIFY(header->checkBoxRect().center().x() > header->sectionSize(0) / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, header->checkBoxRect().center());
+    QCOMPARE(tree.topLevelItem(0)->checkState(0), Qt::Unchecked);
+    QCOMPARE(header->checkBoxState(), Qt::Unchecked);
 }
 
 void TestItemViewToolkit::dfsIndexesFollowDepthFirstOrder()
@@ -237,9 +241,13 @@ void TestItemViewToolkit::prepareDragFillsMimeData()
 {
     VNTreeView view;
     QStandardItemModel model;
-    model.appendRow(new QStandardItem(QStringLiteral("row")));
+    QModelIndexList rows;
+    for (int row = 0; row < 8; ++row) {
+        model.appendRow(new QStandardItem(QStringLiteral("row")));
+        rows.append(model.index(row, 0));
+    }
     view.setModel(&model);
-    view.resize(200, 100);
+    view.resize(200, 400);
     VNDragAndDropManager* manager = view.getDragAndDropManager();
     QPixmap pixmap;
     // Nobody fills the data: no drag.
@@ -249,9 +257,11 @@ void TestItemViewToolkit::prepareDragFillsMimeData()
                 QVERIFY(!dragPixmap.isNull());
                 mimeData.setData("f", indexes.first().data().toByteArray());
             });
-    std::unique_ptr<QMimeData> data(manager->prepareDrag(QModelIndexList{model.index(0, 0)}, pixmap));
+    std::unique_ptr<QMimeData> data(manager->prepareDrag(rows, pixmap));
     QVERIFY(data);
     QCOMPARE(data->data("f"), QByteArray("row"));
+    // The picture shows the first five of the eight rows.
+    QCOMPARE(pixmap.height(), 5 * view.visualRect(rows.first()).height());
     manager->finishDrag();
 }
 
@@ -297,6 +307,7 @@ void TestItemViewToolkit::dendrogramIgnoresBrokenLinks()
     dendrogram.setDendrogramModel(model);
     dendrogram.setDendrogramModel(nullptr);
     dendrogram.setDendrogramModel(model);
+    QVERIFY(dendrogram.linkMarkPosition(0, 0).isNull()); // never on the name column
     const QImage image = dendrogram.viewport()->grab().toImage();
     QCOMPARE(countPixels(image, image.rect(), QColor(0x2f, 0x6d, 0xb5)), 0);
 }

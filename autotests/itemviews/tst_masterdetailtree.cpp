@@ -12,7 +12,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTest>
-#include <QVBoxLayout>
 
 namespace {
 // The page texts in depth-first order, read through the stack's depth-first lookup.
@@ -63,9 +62,13 @@ private slots:
     void selectingShowsDetailPage();
     void highlightFollowsCurrent();
     void colourBoxes();
+    void iconRule_data();
+    void iconRule();
+    void iconPlacement_data();
+    void iconPlacement();
+    void multiselectionSwitchesEveryTree();
     void groupHeaderAndMarkersArePainted();
     void contextMenuNamesSelection();
-    void embeddedAndDeletedWithParent();
 };
 
 void TestMasterDetail::initialContents()
@@ -90,7 +93,9 @@ void TestMasterDetail::initialContents()
 void TestMasterDetail::numberingRestartsAfterDeleteAll()
 {
     TestMasterDetailTree dialog(nullptr);
+    QPointer<QWidget> page = dialog.stackWidget()->itemAt(0)->page();
     clickButton(&dialog, "m_deleteAllBtn");
+    QVERIFY(!page); // cleared pages are deleted
     QCOMPARE(dfsTexts(dialog.stackWidget()), QStringList());
     QCOMPARE(dialog.stackWidget()->count(), 0);
     QCOMPARE(child<QTreeWidget>(&dialog, "m_qtreeWidget")->topLevelItemCount(), 0);
@@ -255,6 +260,100 @@ void TestMasterDetail::colourBoxes()
         QVERIFY(!box(i).isValid());
 }
 
+void TestMasterDetail::iconRule_data()
+{
+    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<int>("entry");   // of the icon combo box
+    QTest::addColumn<int>("topIcon"); // the entry whose icon the first page shows, -1: none
+    QTest::addColumn<int>("subIcon"); // likewise for "Sub Sub Page 0"
+    QTest::addColumn<int>("newIcon"); // likewise for the last page
+    QTest::newRow("sub pages only") << QStringList{"m_iconCB"} << 0 << -1 << 0 << -1;
+    QTest::newRow("with top level") << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_addTopBtn"} << 1 << 1 << 1
+                                    << 1;
+    QTest::newRow("off again") << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_iconCB"} << 0 << -1 << -1
+                               << -1;
+    QTest::newRow("top level left alone")
+        << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_includeTopLevelItemsCB", "m_iconCB"} << 0 << 0 << -1
+        << 0;
+}
+
+void TestMasterDetail::iconRule()
+{
+    QFETCH(QStringList, clicks);
+    QFETCH(int, entry);
+    TestMasterDetailTree dialog(nullptr);
+    auto* icons = child<QComboBox>(&dialog, "m_chooseIconCB");
+    icons->setCurrentIndex(entry);
+    for (const QString& name : clicks)
+        clickButton(&dialog, name);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    auto shown = [icons](VNControlledStackItem* item) {
+        const QIcon icon = item->icon(0);
+        for (int i = 0; i < icons->count(); ++i) {
+            if (!icon.isNull() && icon.cacheKey() == icons->itemIcon(i).cacheKey())
+                return i;
+        }
+        return icon.isNull() ? -1 : -2;
+    };
+    QTEST(shown(stack->itemAt(0)), "topIcon");
+    QTEST(shown(stack->itemAtDFSIndex(3)), "subIcon");
+    QTEST(shown(stack->itemAt(stack->itemCount() - 1)), "newIcon");
+}
+
+void TestMasterDetail::iconPlacement_data()
+{
+    QTest::addColumn<int>("alignment"); // entry of the alignment box
+    QTest::addColumn<bool>("indentation");
+    QTest::addColumn<int>("place"); // where the icon shows: -1 left of the row, 0 at its start, 1 at its end
+    QTest::newRow("left") << 1 << false << 0;
+    QTest::newRow("right") << 0 << false << 1;
+    QTest::newRow("in indentation") << 1 << true << -1;
+    QTest::newRow("in indentation wins over right") << 0 << true << -1;
+}
+
+// The first column where a sub page's row looks different with an icon tells where the icon went.
+void TestMasterDetail::iconPlacement()
+{
+    QFETCH(int, alignment);
+    QFETCH(bool, indentation);
+    QFETCH(int, place);
+    TestMasterDetailTree dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTreeWidget* tree = controllerTree(dialog);
+    tree->expandAll();
+    const QRect row = tree->visualItemRect(dialog.stackWidget()->itemAtDFSIndex(1));
+    const QRect strip(0, row.top(), tree->viewport()->width(), row.height());
+    const QImage plain = tree->viewport()->grab(strip).toImage();
+    auto* indentationBox = child<QCheckBox>(&dialog, "m_leftIconInIndentationCB");
+    QVERIFY(!indentationBox->isEnabled());
+    clickButton(&dialog, "m_iconCB");
+    QVERIFY(indentationBox->isEnabled());
+    child<QComboBox>(&dialog, "m_alignmentCB")->setCurrentIndex(alignment);
+    if (indentation)
+        clickButton(&dialog, "m_leftIconInIndentationCB");
+    const QImage image = tree->viewport()->grab(strip).toImage();
+    int first = -1;
+    for (int x = 0; x < image.width() && first < 0; ++x)
+        for (int y = 0; y < image.height() && first < 0; ++y)
+            first = image.pixel(x, y) != plain.pixel(x, y) ? x : -1;
+    QVERIFY(first >= 0);
+    const int found = first < row.left() ? -1 : first < row.left() + 24 ? 0 : 1;
+    QCOMPARE(found, place);
+}
+
+void TestMasterDetail::multiselectionSwitchesEveryTree()
+{
+    TestMasterDetailTree dialog(nullptr);
+    const QList<QAbstractItemView*> views{controllerTree(dialog), child<QTreeWidget>(&dialog, "m_qtreeWidget"),
+                                          child<QTreeWidget>(&dialog, "m_dragTreeWdg")};
+    for (const auto mode : {QAbstractItemView::SingleSelection, QAbstractItemView::ExtendedSelection}) {
+        clickButton(&dialog, "m_multiselectionEnabled");
+        for (QAbstractItemView* view : views)
+            QCOMPARE(view->selectionMode(), mode);
+    }
+}
+
 void TestMasterDetail::groupHeaderAndMarkersArePainted()
 {
     TestMasterDetailTree dialog(nullptr);
@@ -293,26 +392,6 @@ void TestMasterDetail::contextMenuNamesSelection()
     dialog.stackWidget()->itemAt(1)->setSelected(true);
     QCOMPARE(texts(onPage), (QStringList{"Expand All", "Collapse All", "multi selection"}));
     QCOMPARE(texts(QPoint(5, tree->viewport()->height() - 2)), (QStringList{"Expand All", "Collapse All"}));
-}
-
-void TestMasterDetail::embeddedAndDeletedWithParent()
-{
-    auto* parent = new QWidget;
-    auto* layout = new QVBoxLayout(parent);
-    QPointer<TestMasterDetailTree> dialog = new TestMasterDetailTree(parent);
-    dialog->setWindowFlags(Qt::Widget);
-    layout->addWidget(dialog);
-    parent->show();
-    QVERIFY(QTest::qWaitForWindowExposed(parent));
-    QVERIFY(!dialog->isWindow());
-    QVERIFY(dialog->isVisible());
-    QPointer<QWidget> page = dialog->stackWidget()->itemAt(0)->page();
-    clickButton(dialog, "m_symmetrySetup");
-    QVERIFY(!page); // cleared pages are deleted
-    page = dialog->stackWidget()->itemAt(0)->page();
-    delete parent;
-    QVERIFY(!dialog);
-    QVERIFY(!page);
 }
 
 QTEST_MAIN(TestMasterDetail)
