@@ -101,8 +101,6 @@ private slots:
         QCoreApplication::processEvents();
         QCOMPARE(m_tree->topLevelItem(1)->text(1), QStringLiteral("Text 1"));
         QCOMPARE(m_tree->topLevelItem(m_tree->topLevelItemCount() - 1)->text(1), QStringLiteral("Test_Name.Alias"));
-        QVERIFY(qobject_cast<VNMenuButtonDelegate*>(
-            m_dialog->delegateForRow(rowOf(m_tree, QStringLiteral("VNMenuButtonDelegate")))));
     }
 
     void statusSlots_data()
