@@ -215,8 +215,10 @@ void TestItemViewToolkit::receiverDecidesDropAction()
     QMimeData data;
     data.setData(QStringLiteral("f"), "x");
     const QPoint onRow = tree.visualItemRect(tree.topLevelItem(0)).center();
-    manager->m_highlightDropTarget = true; // the row under the drag is framed until the drop
     const QImage idle = tree.viewport()->grab().toImage();
+    moveAction(&tree, &data, onRow);
+    QCOMPARE(tree.viewport()->grab().toImage(), idle);
+    manager->m_highlightDropTarget = true; // the row under the drag is framed until the drop
     moveAction(&tree, &data, onRow);
     QVERIFY(tree.viewport()->grab().toImage() != idle);
     QVERIFY(dropOn(&tree, &data, onRow));
@@ -307,8 +309,11 @@ void TestItemViewToolkit::dendrogramPaintsLinks()
     model->columnToColumn = {{1, 2}};
     dendrogram.setDendrogramModel(model);
     QVERIFY(linkPixels() > withMarks + 20);
-    image = dendrogram.viewport()->grab().toImage();
-    QCOMPARE(image.pixelColor(dendrogram.linkMarkPosition(2, 1)), link);
+    const QImage joined = dendrogram.viewport()->grab().toImage();
+    QCOMPARE(joined.pixelColor(dendrogram.linkMarkPosition(2, 1)), link);
+    // The connector runs on the lowest mark's line from the start column to the end column.
+    const QPoint onConnector = mark + QPoint(10, 0);
+    QVERIFY(joined.pixelColor(onConnector) != image.pixelColor(onConnector));
 }
 
 void TestItemViewToolkit::dendrogramIgnoresBrokenLinks()
