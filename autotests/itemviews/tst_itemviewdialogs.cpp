@@ -118,13 +118,24 @@ void TestItemViewDialogs::tableSectionsNumberedAndCoded()
     QVERIFY(qobject_cast<VNCustomHeaderView*>(child<VNTableView>(&dialog, "m_vnTableView")->verticalHeader()));
 }
 
+// Remove takes the last section from both tables; on empty tables it changes nothing.
 void TestItemViewDialogs::tableRemoveOnEmptyChangesNothing()
 {
     TestVNTableWidget dialog(nullptr);
-    QTest::mousePress(child<QAbstractButton>(&dialog, "m_removeColumnPB"), Qt::LeftButton);
-    QTest::mousePress(child<QAbstractButton>(&dialog, "m_removeRowPB"), Qt::LeftButton);
-    QCOMPARE(dialog.viewModel()->columnCount(), 0);
-    QCOMPARE(child<VNTableWidget>(&dialog, "m_vnTableWidget")->rowCount(), 0);
+    auto press = [&dialog](const char* name) {
+        QTest::mousePress(child<QAbstractButton>(&dialog, name), Qt::LeftButton);
+    };
+    auto* table = child<VNTableWidget>(&dialog, "m_vnTableWidget");
+    for (const char* name :
+         {"m_addColumnPB", "m_addColumnPB", "m_addRowPB", "m_addRowPB", "m_removeColumnPB", "m_removeRowPB"})
+        press(name);
+    QCOMPARE(table->horizontalHeaderItem(table->columnCount() - 1)->text(), QStringLiteral("Column0"));
+    QCOMPARE(dialog.viewModel()->headerData(dialog.viewModel()->rowCount() - 1, Qt::Vertical).toString(),
+             QStringLiteral("Row0"));
+    for (const char* name : {"m_removeColumnPB", "m_removeRowPB", "m_removeColumnPB", "m_removeRowPB"})
+        press(name);
+    QCOMPARE(dialog.viewModel()->columnCount() + dialog.viewModel()->rowCount(), 0);
+    QCOMPARE(table->columnCount() + table->rowCount(), 0);
 }
 
 void TestItemViewDialogs::treeViewNumbersAndDropCopiesFirstText()

@@ -250,6 +250,12 @@ void TestItemViewToolkit::moveOnDropReordersRows()
     tree.finishDrag();
     QCOMPARE(tree.topLevelItem(0)->text(0), QStringLiteral("c"));
     QCOMPARE(tree.topLevelItem(1)->text(0), QStringLiteral("a"));
+    // Dropped onto itself, a row stays where it is.
+    data.reset(tree.prepareDragOfSelection(pixmap));
+    dropOn(&tree, data.get(), tree.visualItemRect(tree.topLevelItem(0)).center());
+    tree.finishDrag();
+    QCOMPARE(tree.topLevelItemCount(), 3);
+    QCOMPARE(tree.topLevelItem(0)->text(0), QStringLiteral("c"));
 }
 
 void TestItemViewToolkit::prepareDragFillsMimeData()

@@ -403,21 +403,34 @@ private slots:
         QCOMPARE(m_tree->model()->index(row, 1).data(Qt::EditRole), QVariant(false));
     }
 
+    // Both kinds of value cell take a typed value and show it with their unit and decimals.
+    void valueCellEditsWithUnit_data()
+    {
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<double>("value");
+        QTest::addColumn<QString>("unit");
+        QTest::addColumn<int>("decimals");
+        QTest::newRow("roles") << "VNItemDelegate - Spinbox Roles" << 1.5 << "inch" << 3;
+        QTest::newRow("data") << "VNItemDelegate - VNDoubleSpinBoxData" << 25.4 << "mm" << 2;
+    }
     void valueCellEditsWithUnit()
     {
-        const int row = rowOf(m_tree, QStringLiteral("VNItemDelegate - Spinbox Roles"));
-        const QModelIndex cell = m_tree->model()->index(row, 1);
+        QFETCH(QString, caption);
+        QFETCH(QString, unit);
+        QFETCH(int, decimals);
+        const QModelIndex cell = m_tree->model()->index(rowOf(m_tree, caption), 1);
         m_tree->scrollTo(cell);
         m_tree->edit(cell);
         auto* editor = m_tree->viewport()->findChild<VNDoubleSpinBox*>();
         QVERIFY(editor);
-        QCOMPARE(editor->value(), 1.5);
-        QCOMPARE(editor->valueUnit(), QStringLiteral("inch"));
+        QTEST(editor->value(), "value");
+        QCOMPARE(editor->valueUnit(), unit);
         editor->selectAll();
         QTest::keyClicks(editor, QLocale().toString(2.75));
         QTest::keyClick(editor, Qt::Key_Return);
-        QTRY_COMPARE(cell.data(VNItemDataRoles::ValueRole).toDouble(), 2.75); // committed queued
-        QCOMPARE(VNItemDelegate::valueText(cell), QLocale().toString(2.75, 'f', 3) + QStringLiteral(" inch"));
+        // committed queued
+        QTRY_COMPARE(VNItemDelegate::valueText(cell),
+                     QLocale().toString(2.75, 'f', decimals) + QLatin1Char(' ') + unit);
     }
 
 private:
