@@ -192,6 +192,8 @@ void TestItemViewToolkit::dfsIndexesFollowDepthFirstOrder()
     QCOMPARE(tree.getDFSIndex(a2), 3);
     QCOMPARE(tree.getDFSIndex(b), 4);
     QCOMPARE(tree.getDFSIndex(nullptr), -1);
+    const QTreeWidgetItem foreign;
+    QCOMPARE(tree.getDFSIndex(&foreign), -1);
     tree.insertTopLevelItem(0, new QTreeWidgetItem);
     QCOMPARE(tree.getDFSIndex(b), 5);
     delete a1;
