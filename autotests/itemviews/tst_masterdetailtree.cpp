@@ -12,7 +12,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QTest>
-#include <QVBoxLayout>
 
 namespace {
 // The page texts in depth-first order, read through the stack's depth-first lookup.
@@ -55,7 +54,6 @@ private slots:
     void numberingRestartsAfterDeleteAll();
     void subSubItemOnEmptyStackCreatesUpperLevels();
     void checkableItemsOnlyForNewPages();
-    void symmetrySetupMarkers_data();
     void symmetrySetupMarkers();
     void makeSymmetrical_data();
     void makeSymmetrical();
@@ -63,9 +61,13 @@ private slots:
     void selectingShowsDetailPage();
     void highlightFollowsCurrent();
     void colourBoxes();
+    void iconRule_data();
+    void iconRule();
+    void iconPlacement_data();
+    void iconPlacement();
+    void multiselectionSwitchesEveryTree();
     void groupHeaderAndMarkersArePainted();
     void contextMenuNamesSelection();
-    void embeddedAndDeletedWithParent();
 };
 
 void TestMasterDetail::initialContents()
@@ -90,7 +92,9 @@ void TestMasterDetail::initialContents()
 void TestMasterDetail::numberingRestartsAfterDeleteAll()
 {
     TestMasterDetailTree dialog(nullptr);
+    QPointer<QWidget> page = dialog.stackWidget()->itemAt(0)->page();
     clickButton(&dialog, "m_deleteAllBtn");
+    QVERIFY(!page); // cleared pages are deleted
     QCOMPARE(dfsTexts(dialog.stackWidget()), QStringList());
     QCOMPARE(dialog.stackWidget()->count(), 0);
     QCOMPARE(child<QTreeWidget>(&dialog, "m_qtreeWidget")->topLevelItemCount(), 0);
@@ -131,42 +135,21 @@ void TestMasterDetail::checkableItemsOnlyForNewPages()
     QVERIFY(!stack->itemAt(4)->data(0, Qt::CheckStateRole).isValid());
 }
 
-void TestMasterDetail::symmetrySetupMarkers_data()
-{
-    QTest::addColumn<int>("dfsIndex");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("marker");
-    const QVariant none;
-    const struct
-    {
-        int dfs;
-        const char* text;
-        QVariant marker;
-    } rows[] = {
-        {0, "Page 0", 0},         {1, "Page 1", 1},          {2, "Page 2", 2},         {3, "Page 3", none},
-        {4, "Sub Page 0", 0},     {6, "Sub Page 2", 2},      {7, "Page 4", none},      {8, "Sub Page 0", none},
-        {9, "Sub Sub Page 0", 0}, {11, "Sub Sub Page 2", 2}, {12, "Page 5", 1},        {13, "Sub Page 0", none},
-        {15, "Page 6", 2},        {18, "Page 7", none},      {19, "Sub Page 0", 0},    {20, "Sub Sub Page 0", none},
-        {21, "Page 8", 0},        {22, "Sub Page 0", 1},     {23, "Sub Page 1", 2},    {24, "Page 9", none},
-        {25, "Sub Page 0", 0},    {26, "Sub Sub Page 0", 1}, {27, "Sub Sub Page 1", 2}};
-    for (const auto& row : rows)
-        QTest::newRow(qPrintable(QStringLiteral("dfs %1").arg(row.dfs))) << row.dfs << row.text << row.marker;
-}
-
+// Every page after "Symmetry Setup" in depth-first order, with its marker ("-" for none).
 void TestMasterDetail::symmetrySetupMarkers()
 {
-    QFETCH(int, dfsIndex);
-    QFETCH(QString, text);
-    QFETCH(QVariant, marker);
     TestMasterDetailTree dialog(nullptr);
     clickButton(&dialog, "m_symmetrySetup");
-    QVERIFY(!dialog.stackWidget()->itemAtDFSIndex(28));
-    VNControlledStackItem* item = dialog.stackWidget()->itemAtDFSIndex(dfsIndex);
-    QVERIFY(item);
-    QCOMPARE(item->text(), text);
-    QCOMPARE(::marker(item).isValid(), marker.isValid());
-    if (marker.isValid())
-        QCOMPARE(::marker(item).toInt(), marker.toInt());
+    QStringList pages;
+    for (int i = 0; VNControlledStackItem* item = dialog.stackWidget()->itemAtDFSIndex(i); ++i)
+        pages << item->text() + (marker(item).isValid() ? QString::number(marker(item).toInt()) : QStringLiteral("-"));
+    const QStringList expected{
+        "Page 00",     "Page 11",     "Page 22",         "Page 3-",         "Sub Page 00",     "Sub Page 11",
+        "Sub Page 22", "Page 4-",     "Sub Page 0-",     "Sub Sub Page 00", "Sub Sub Page 11", "Sub Sub Page 22",
+        "Page 51",     "Sub Page 0-", "Sub Sub Page 0-", "Page 62",         "Sub Page 0-",     "Sub Sub Page 0-",
+        "Page 7-",     "Sub Page 00", "Sub Sub Page 0-", "Page 80",         "Sub Page 01",     "Sub Page 12",
+        "Page 9-",     "Sub Page 00", "Sub Sub Page 01", "Sub Sub Page 12"};
+    QCOMPARE(pages, expected);
 }
 
 void TestMasterDetail::makeSymmetrical_data()
@@ -204,6 +187,10 @@ void TestMasterDetail::selectionByDfsIndex()
     selected.sort();
     QCOMPARE(selected, (QStringList{"Page 2", "Sub Sub Page 0"}));
     QCOMPARE(dialog.stackWidget()->currentItem(), dialog.stackWidget()->itemAtDFSIndex(3));
+    // Indexes past the end are left out; the first existing one becomes current.
+    dialog.stackWidget()->setSelectedElementsByDfsIndex({99, 5, 1});
+    QCOMPARE(controllerTree(dialog)->selectedItems().size(), 2);
+    QCOMPARE(dialog.stackWidget()->currentItem(), dialog.stackWidget()->itemAtDFSIndex(5));
 }
 
 void TestMasterDetail::selectingShowsDetailPage()
@@ -255,6 +242,96 @@ void TestMasterDetail::colourBoxes()
         QVERIFY(!box(i).isValid());
 }
 
+void TestMasterDetail::iconRule_data()
+{
+    QTest::addColumn<QStringList>("clicks");
+    QTest::addColumn<int>("entry"); // of the icon combo box
+    // Whether the first page, "Sub Sub Page 0" and the last page show the entry's icon (else none).
+    QTest::addColumn<QList<bool>>("shown");
+    QTest::newRow("sub pages only") << QStringList{"m_iconCB"} << 0 << QList<bool>{false, true, false};
+    QTest::newRow("with top level") << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_addTopBtn"} << 1
+                                    << QList<bool>{true, true, true};
+    QTest::newRow("off again") << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_iconCB"} << 0
+                               << QList<bool>{false, false, false};
+    QTest::newRow("top level left alone")
+        << QStringList{"m_includeTopLevelItemsCB", "m_iconCB", "m_includeTopLevelItemsCB", "m_iconCB"} << 0
+        << QList<bool>{true, false, true};
+}
+
+void TestMasterDetail::iconRule()
+{
+    QFETCH(QStringList, clicks);
+    QFETCH(int, entry);
+    QFETCH(QList<bool>, shown);
+    TestMasterDetailTree dialog(nullptr);
+    auto* icons = child<QComboBox>(&dialog, "m_chooseIconCB");
+    icons->setCurrentIndex(entry);
+    for (const QString& name : clicks)
+        clickButton(&dialog, name);
+    VNControlledStackWidget* stack = dialog.stackWidget();
+    const VNControlledStackItem* items[] = {stack->itemAt(0), stack->itemAtDFSIndex(3),
+                                            stack->itemAt(stack->itemCount() - 1)};
+    for (int i = 0; i < 3; ++i) {
+        const QIcon icon = items[i]->icon(0);
+        QCOMPARE(icon.isNull(), !shown.at(i));
+        QCOMPARE(icon.cacheKey() == icons->itemIcon(entry).cacheKey(), shown.at(i));
+    }
+}
+
+void TestMasterDetail::iconPlacement_data()
+{
+    QTest::addColumn<int>("alignment"); // entry of the alignment box
+    QTest::addColumn<bool>("indentation");
+    QTest::addColumn<int>("place"); // where the icon shows: -1 left of the row, 0 at its start, 1 at its end
+    QTest::newRow("left") << 1 << false << 0;
+    QTest::newRow("right") << 0 << false << 1;
+    QTest::newRow("in indentation") << 1 << true << -1;
+    QTest::newRow("in indentation wins over right") << 0 << true << -1;
+}
+
+// The first column where a sub page's row looks different with an icon tells where the icon went.
+void TestMasterDetail::iconPlacement()
+{
+    QFETCH(int, alignment);
+    QFETCH(bool, indentation);
+    QFETCH(int, place);
+    TestMasterDetailTree dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QTreeWidget* tree = controllerTree(dialog);
+    tree->expandAll();
+    const QRect row = tree->visualItemRect(dialog.stackWidget()->itemAtDFSIndex(1));
+    const QRect strip(0, row.top(), tree->viewport()->width(), row.height());
+    const QImage plain = tree->viewport()->grab(strip).toImage();
+    auto* indentationBox = child<QCheckBox>(&dialog, "m_leftIconInIndentationCB");
+    QVERIFY(!indentationBox->isEnabled());
+    clickButton(&dialog, "m_iconCB");
+    QVERIFY(indentationBox->isEnabled());
+    child<QComboBox>(&dialog, "m_alignmentCB")->setCurrentIndex(alignment);
+    if (indentation)
+        clickButton(&dialog, "m_leftIconInIndentationCB");
+    const QImage image = tree->viewport()->grab(strip).toImage();
+    int first = -1;
+    for (int x = 0; x < image.width() && first < 0; ++x)
+        for (int y = 0; y < image.height() && first < 0; ++y)
+            first = image.pixel(x, y) != plain.pixel(x, y) ? x : -1;
+    QVERIFY(first >= 0);
+    const int found = first < row.left() ? -1 : first < row.left() + 24 ? 0 : 1;
+    QCOMPARE(found, place);
+}
+
+void TestMasterDetail::multiselectionSwitchesEveryTree()
+{
+    TestMasterDetailTree dialog(nullptr);
+    const QList<QAbstractItemView*> views{controllerTree(dialog), child<QTreeWidget>(&dialog, "m_qtreeWidget"),
+                                          child<QTreeWidget>(&dialog, "m_dragTreeWdg")};
+    for (const auto mode : {QAbstractItemView::SingleSelection, QAbstractItemView::ExtendedSelection}) {
+        clickButton(&dialog, "m_multiselectionEnabled");
+        for (QAbstractItemView* view : views)
+            QCOMPARE(view->selectionMode(), mode);
+    }
+}
+
 void TestMasterDetail::groupHeaderAndMarkersArePainted()
 {
     TestMasterDetailTree dialog(nullptr);
@@ -266,6 +343,10 @@ void TestMasterDetail::groupHeaderAndMarkersArePainted()
     QCOMPARE(tree->viewport()->grab().toImage().pixelColor(inside), QColor(Qt::white));
     child<QCheckBox>(&dialog, "m_showGroupHeader")->setChecked(true);
     QCOMPARE(tree->viewport()->grab().toImage().pixelColor(inside), QColor(0xe1, 0xe6, 0xec));
+    page->setData(0, VNControlledStackItem::HighlightRole, true);
+    QCOMPARE(tree->viewport()->grab().toImage().pixelColor(inside), QColor(0xff, 0xe8, 0x9c));
+    clickButton(&dialog, "m_colorBoxCB"); // a red box at the start of the row
+    QCOMPARE(tree->viewport()->grab().toImage().pixelColor(row.left() + 7, row.center().y()), QColor(Qt::red));
 
     page->setData(0, VNControlledStackItem::SymmetryMarkerRole, VNControlledStackItem::InnerItem);
     const QImage image = tree->viewport()->grab().toImage();
@@ -293,26 +374,10 @@ void TestMasterDetail::contextMenuNamesSelection()
     dialog.stackWidget()->itemAt(1)->setSelected(true);
     QCOMPARE(texts(onPage), (QStringList{"Expand All", "Collapse All", "multi selection"}));
     QCOMPARE(texts(QPoint(5, tree->viewport()->height() - 2)), (QStringList{"Expand All", "Collapse All"}));
-}
-
-void TestMasterDetail::embeddedAndDeletedWithParent()
-{
-    auto* parent = new QWidget;
-    auto* layout = new QVBoxLayout(parent);
-    QPointer<TestMasterDetailTree> dialog = new TestMasterDetailTree(parent);
-    dialog->setWindowFlags(Qt::Widget);
-    layout->addWidget(dialog);
-    parent->show();
-    QVERIFY(QTest::qWaitForWindowExposed(parent));
-    QVERIFY(!dialog->isWindow());
-    QVERIFY(dialog->isVisible());
-    QPointer<QWidget> page = dialog->stackWidget()->itemAt(0)->page();
-    clickButton(dialog, "m_symmetrySetup");
-    QVERIFY(!page); // cleared pages are deleted
-    page = dialog->stackWidget()->itemAt(0)->page();
-    delete parent;
-    QVERIFY(!dialog);
-    QVERIFY(!page);
+    dialog.controller()->createCustomContextMenu(16, true, 1); // the handler's entries before the second
+    QCOMPARE(texts(onPage), (QStringList{"Expand All", "multi selection", "Collapse All"}));
+    dialog.controller()->createCustomContextMenu(16, false, -1);
+    QCOMPARE(texts(onPage), QStringList{"multi selection"});
 }
 
 QTEST_MAIN(TestMasterDetail)

@@ -153,7 +153,8 @@ bool IconToggleDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, c
                                      const QModelIndex& index)
 {
     const QVariant active = index.data(VNItemDataRoles::ActiveRole);
-    if ((active.isValid() && !active.toBool()) || !(model->flags(index) & Qt::ItemIsEnabled))
+    if ((active.isValid() && !active.toBool()) || VNItemDelegate::isReadOnly(index) ||
+        !(model->flags(index) & Qt::ItemIsEnabled))
         return false;
     if (event->type() == QEvent::MouseButtonDblClick)
         return true;

@@ -416,7 +416,8 @@ bool VNItemDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const
     if (handleSigmaClick(event, option, index))
         return true;
     const Qt::ItemFlags flags = model->flags(index);
-    if (!isActive(index) || !(flags & Qt::ItemIsUserCheckable) || !(flags & Qt::ItemIsEnabled) || !m_checkIndicator)
+    if (!isActive(index) || isReadOnly(index) || !(flags & Qt::ItemIsUserCheckable) || !(flags & Qt::ItemIsEnabled) ||
+        !m_checkIndicator)
         return false;
     const QVariant value = index.data(Qt::CheckStateRole);
     if (!value.isValid())
