@@ -263,13 +263,16 @@ void tst_DesignerPlugin::disclosureContentIsTheDesignerPage()
     auto* pages = qt_extension<QDesignerContainerExtension*>(manager, disclosure);
     QVERIFY(pages);
     QCOMPARE(pages->count(), 0);
+    QCOMPARE(pages->currentIndex(), -1);
     QVERIFY(pages->canAddWidget());
     auto* content = new QWidget;
     content->setObjectName(QStringLiteral("ProgressiveDisclosureContainer"));
     pages->addWidget(content);
     QVERIFY(disclosure->isAncestorOf(content));
     QCOMPARE(pages->count(), 1);
+    QCOMPARE(pages->currentIndex(), 0);
     QCOMPARE(pages->widget(0), content);
+    QCOMPARE(pages->widget(1), nullptr);
     QCOMPARE(disclosure->contentWidget(), content);
     QVERIFY(!pages->canAddWidget());
     QVERIFY(!pages->canRemove(0));

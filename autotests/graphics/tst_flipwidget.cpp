@@ -1,6 +1,7 @@
 #include "TestFlipWidget.h"
 
 #include <FlipWidget.h>
+#include <LayoutVisualizationFilter.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>
@@ -43,6 +44,9 @@ void FlipWidgetTest::flipButtonsTurnAndKeepState()
     auto* spinBox = dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox"));
     slider->setValue(42);
     QCOMPARE(flip->currentWidget()->objectName(), QStringLiteral("frame1"));
+    // The dialog shows its layouts for inspection.
+    auto* layouts = dialog.findChild<LayoutVisualizationFilter*>();
+    QVERIFY(layouts && layouts->isInstalledOn(&dialog));
 
     QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("flip1")), Qt::LeftButton);
     QVERIFY(flip->isFlipping());

@@ -1,7 +1,9 @@
+#include "../TestSupport.h"
 #include "TestProgressComposition.h"
 
 #include <VNMultiProgressBar.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +52,9 @@ private slots:
 
     void initialSettingsAndDefaultSize();
     void setupBuildsNamedOperations();
+    void stepSingleAddsTen();
+    void animationTicks_data();
+    void animationTicks();
     void noOperationsAcceptOnlyMinusOne();
     void linearAnimationFillsEveryOperation();
     void circularAnimationMovesOnePerTick();
@@ -79,16 +84,64 @@ void TestProgressCompositionDialog::initialSettingsAndDefaultSize()
     QCOMPARE(dialog.width(), 450);
 }
 
+// A new prefix takes effect with "Setup OP's", with Return in the prefix field and with a new count.
 void TestProgressCompositionDialog::setupBuildsNamedOperations()
 {
     TestProgressComposition dialog(nullptr);
     Form form(&dialog);
     form.prefix->setText(QStringLiteral("OP"));
-    form.button(&dialog, "setup")->click();
+    QVERIFY(form.bar->progressItems().value(0) != QStringLiteral("OP10"));
+    clickButton(&dialog, QStringLiteral("setup"));
     QCOMPARE(form.bar->progressItems(), QStringList({"OP10", "OP20", "OP30"}));
+    form.prefix->clear();
+    QTest::keyClicks(form.prefix, QStringLiteral("PX"));
+    QTest::keyClick(form.prefix, Qt::Key_Return);
+    QCOMPARE(form.bar->progressItems(), QStringList({"PX10", "PX20", "PX30"}));
+    form.prefix->setText(QStringLiteral("RX"));
     form.ops->setValue(5);
-    QCOMPARE(form.bar->progressItems().last(), QStringLiteral("OP50"));
+    QCOMPARE(form.bar->progressItems(), QStringList({"RX10", "RX20", "RX30", "RX40", "RX50"}));
     QCOMPARE(form.current->value(), -1);
+}
+
+// "Step +10" moves the current operation's step on by ten from where it stands.
+void TestProgressCompositionDialog::stepSingleAddsTen()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    clickButton(&dialog, QStringLiteral("setup"));
+    form.current->setValue(1);
+    form.bar->stepCurrent(5);
+    clickButton(&dialog, QStringLiteral("stepSingle"));
+    QCOMPARE(form.bar->currentStep(), 15);
+    clickButton(&dialog, QStringLiteral("stepSingle"));
+    QCOMPARE(form.bar->currentStep(), 25);
+    QCOMPARE(form.bar->current(), 1);
+}
+
+void TestProgressCompositionDialog::animationTicks_data()
+{
+    QTest::addColumn<bool>("circular");
+    QTest::addColumn<int>("interval");
+    QTest::newRow("circular") << true << 3000;
+    QTest::newRow("linear") << false << 200;
+}
+
+// The animation ticks with a coarse timer, slowly for the circular look.
+void TestProgressCompositionDialog::animationTicks()
+{
+    QFETCH(bool, circular);
+    QFETCH(int, interval);
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    if (!circular)
+        clickButton(&dialog, QStringLiteral("m_circular"));
+    QCOMPARE(form.bar->isCircular(), circular);
+    clickButton(&dialog, QStringLiteral("startAnimation"));
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&dialog);
+    QCOMPARE(timers.size(), 1);
+    QCOMPARE(timers.first().timerId, dialog.animationTimerId());
+    QCOMPARE(timers.first().interval, interval);
+    QCOMPARE(timers.first().timerType, Qt::CoarseTimer);
 }
 
 void TestProgressCompositionDialog::noOperationsAcceptOnlyMinusOne()

@@ -38,7 +38,7 @@ TestLayoutExample::TestLayoutExample(QWidget* parent)
 
     m_codeView = new QTextEdit(frame);
     m_codeView->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    auto* lineEdit = new QLineEdit(tr("QLineEdit"), frame);
+    auto* lineEdit = new QLineEdit(QStringLiteral("QLineEdit"), frame);
     lineEdit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_button = new QPushButton(frame);
 
@@ -58,7 +58,7 @@ TestLayoutExample::~TestLayoutExample() = default;
 void TestLayoutExample::setStartState()
 {
     comboLayout->setCurrentIndex(0);
-    buttonText->setText(tr("Button"));
+    buttonText->setText(QStringLiteral("Button"));
     minSizeW->setValue(0);
     minSizeH->setValue(0);
     maxSizeW->setValue(16777215);
