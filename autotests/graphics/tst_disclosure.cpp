@@ -178,6 +178,15 @@ void DisclosureTest::groupSingleMode()
     QCOMPARE(disclosures[0]->isOpen(), false);
     QCOMPARE(disclosures[2]->isOpen(), true);
 
+    auto* newcomer = new VNProgressiveDisclosure(&window);
+    newcomer->setAnimationDuration(0);
+    group.add(newcomer);
+    QVERIFY(!newcomer->isOpen());
+    QVERIFY(disclosures[2]->isOpen());
+    group.remove(newcomer);
+    newcomer->setOpen(true);
+    QVERIFY(disclosures[2]->isOpen());
+
     group.setGlobalSingleMode(false);
     disclosures[0]->setOpen(true);
     QCOMPARE(disclosures[2]->isOpen(), true);

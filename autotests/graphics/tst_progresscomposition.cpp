@@ -63,6 +63,7 @@ private slots:
     void stretchModes_data();
     void stretchModes();
     void circularLookIsDrawn();
+    void rowFillsByStep();
 };
 
 void TestProgressCompositionDialog::cleanup()
@@ -75,9 +76,6 @@ void TestProgressCompositionDialog::initialSettingsAndDefaultSize()
 {
     TestProgressComposition dialog(nullptr);
     Form form(&dialog);
-    QCOMPARE(form.ops->maximum(), 50);
-    QCOMPARE(form.ops->value(), 3);
-    QCOMPARE(form.current->minimum(), -1);
     QVERIFY(form.bar->isCircular());
     dialog.resize(700, 500);
     form.button(&dialog, "resizeDefault")->click();
@@ -248,7 +246,9 @@ void TestProgressCompositionDialog::stretchModes()
     const QRectF first = bar.segmentRect(0);
     const QRectF second = bar.segmentRect(1);
     QCOMPARE(qAbs(first.width() - second.width()) < 0.5, equal);
-    QCOMPARE(bar.segmentRect(2).right() > 595, fillsBar);
+    QCOMPARE(first.left(), 0.0);
+    QVERIFY(second.left() > first.right());
+    QCOMPARE(qRound(bar.segmentRect(2).right()) == 600, fillsBar);
     if (mode == 0)
         QVERIFY(first.width() > second.width());
     if (mode == 2)
@@ -266,6 +266,32 @@ void TestProgressCompositionDialog::circularLookIsDrawn()
     const QImage ring = bar.grab().toImage();
     QVERIFY(row != ring);
     QVERIFY(bar.segmentRect(0).isNull());
+}
+
+// Earlier operations are full, later ones empty; the current one fills as its step runs through
+// its range.
+void TestProgressCompositionDialog::rowFillsByStep()
+{
+    VNMultiProgressBar bar;
+    bar.resize(300, 24);
+    bar.setStretchMode(VNMultiProgressBar::Constant);
+    bar.setProgressItems({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    bar.setCurrent(1);
+    bar.setRange(1, 20, 60);
+    const auto at = [&bar](int index, double fraction) {
+        const QRectF segment = bar.segmentRect(index);
+        return bar.grab().toImage().pixelColor(int(segment.left() + segment.width() * fraction), 3);
+    };
+    bar.stepCurrent(20);
+    QCOMPARE(at(1, 0.1), at(1, 0.9));
+    bar.stepCurrent(30);
+    QVERIFY(at(1, 0.2) != at(1, 0.3));
+    QCOMPARE(at(1, 0.3), at(1, 0.9));
+    QCOMPARE(bar.getRange(1), qMakePair(20, 60));
+    QCOMPARE(at(0, 0.1), at(0, 0.9));
+    QVERIFY(at(0, 0.5) != at(2, 0.5));
+    QVERIFY(at(0, 0.5) != at(1, 0.1));
+    QCOMPARE(at(2, 0.1), at(2, 0.9));
 }
 
 QTEST_MAIN(TestProgressCompositionDialog)
