@@ -1,6 +1,7 @@
 # Mock Swedish for the running UI. lupdate extracts the texts of the collection and of the reference
-# toolkit into a .ts file in the build tree, twc-translate fills every translation with mock Swedish,
-# lrelease compiles the result, and the .qm is embedded into the library as
+# toolkit into a .ts file in the build tree, twc-translate fills every translation with mock Swedish
+# (with --keep-numerus, so that a plural text, whose forms lrelease requires, never breaks the
+# build), lrelease compiles the result, and the .qm is embedded into the library as
 # ":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm", which
 # `testwidgetcollection --mock-locale` loads. Without lupdate or lrelease the build goes on
 # without it.
@@ -78,7 +79,7 @@ if(TWC_HAS_MOCK_TRANSLATION)
         VERBATIM)
     # lrelease reads only files named *.ts, so the tool's .swe output is copied to one.
     add_custom_command(OUTPUT "${_twc_qm}"
-        COMMAND twc-translate mock "${_twc_ts}"
+        COMMAND twc-translate mock --keep-numerus "${_twc_ts}"
         COMMAND ${CMAKE_COMMAND} -E copy "${_twc_ts}.swe" "${_twc_mock_ts}"
         COMMAND ${TWC_LRELEASE} -silent "${_twc_mock_ts}" -qm "${_twc_qm}"
         DEPENDS "${_twc_ts}" twc-translate

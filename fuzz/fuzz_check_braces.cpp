@@ -1,24 +1,22 @@
-// Fuzzes TranslationFileTool::checkBracesInContent().
+// Fuzzes TranslationFileCounter::bracesBalanceIn().
 #include "FuzzSupport.h"
-#include "TranslationFileTool.h"
+#include "TranslationFileCounter.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QString content = textOf(data, size);
-    const TranslationFileTool tool;
-    const bool balanced = tool.checkBracesInContent(content);
+    const bool balanced = TranslationFileCounter::bracesBalanceIn(content);
     // Balanced brackets come in pairs, and wrapping balanced text in a pair keeps it balanced.
     if (balanced) {
         FUZZ_CHECK(content.count(QLatin1Char('<')) == content.count(QLatin1Char('>')));
-        FUZZ_CHECK(tool.checkBracesInContent(QLatin1Char('<') + content + QLatin1Char('>')));
+        FUZZ_CHECK(TranslationFileCounter::bracesBalanceIn(QLatin1Char('<') + content + QLatin1Char('>')));
     }
     // A leading '>' can close nothing.
-    FUZZ_CHECK(!tool.checkBracesInContent(QLatin1Char('>') + content));
+    FUZZ_CHECK(!TranslationFileCounter::bracesBalanceIn(QLatin1Char('>') + content));
     return 0;
 }
 
 void checkGrowth(const QByteArray& seed)
 {
-    const TranslationFileTool tool;
-    checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.checkBracesInContent(text); });
+    checkLinearGrowth(textOf(seed), [](const QString& text) { TranslationFileCounter::bracesBalanceIn(text); });
 }

@@ -1,13 +1,13 @@
-// Fuzzes TranslationFileTool::replaceTrCallsInContent() against the QRegExp reference.
+// Fuzzes TrCallRewriter::rewriteContent() against the QRegExp reference.
 #include "FuzzSupport.h"
-#include "TranslationFileTool.h"
+#include "TrCallRewriter.h"
 #include "TranslationOracle.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     const QString content = textOf(data, size);
     const QString context = QStringLiteral("FuzzDialog");
-    const QString result = TranslationFileTool().replaceTrCallsInContent(content, context);
+    const QString result = TrCallRewriter().rewriteContent(content, context);
     // A text without "tr" cannot change. (A call may shrink: the blanks before its parenthesis go.)
     if (!content.contains(QLatin1String("tr")))
         FUZZ_CHECK(result == content);
@@ -18,6 +18,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
 void checkGrowth(const QByteArray& seed)
 {
-    const TranslationFileTool tool;
-    checkLinearGrowth(textOf(seed), [&](const QString& text) { tool.replaceTrCallsInContent(text, "Growth"); });
+    const TrCallRewriter rewriter;
+    checkLinearGrowth(textOf(seed), [&](const QString& text) { rewriter.rewriteContent(text, "Growth"); });
 }

@@ -17,7 +17,7 @@ TestRegExp::~TestRegExp() = default;
 void TestRegExp::onBtnStartClicked()
 {
     const QString path = ui.m_pathDisplay->text();
-    const int mode = ui.m_modeSelection->currentIndex();
+    const auto mode = TranslationRunner::Operation(ui.m_modeSelection->currentIndex());
     if (mode == TranslationRunner::RewriteWholeProject) {
         ui.m_feedback->setText(TranslationMessages::featureDisabled());
         return;

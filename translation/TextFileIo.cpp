@@ -7,6 +7,7 @@
 #include <QTextCodec>
 
 #include <algorithm>
+#include <cstring>
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
@@ -212,6 +213,22 @@ Result readBytes(const QString& filePath, QByteArray* bytes)
     return failure(Status::Ok, filePath);
 }
 
+Result readText(const QString& filePath, QString* text)
+{
+    text->clear();
+    QByteArray bytes;
+    Result result = readBytes(filePath, &bytes);
+    if (!result.ok())
+        return result;
+    Encoding encoding;
+    result = decode(bytes, text, &encoding);
+    result.path = filePath;
+    if (!result.ok())
+        text->clear();
+    removeCarriageReturns(*text);
+    return result;
+}
+
 FileContent::FileContent() = default;
 
 FileContent::~FileContent()
@@ -287,6 +304,52 @@ QByteArray encode(const QString& text, Encoding encoding)
         return bytes + text.toUtf8();
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     return bytes + QTextCodec::codecForName(mark->codecName)->fromUnicode(text.constData(), text.size(), &state);
+}
+
+bool isValidUtf8(const char* data, int size)
+{
+    const uchar* it = reinterpret_cast<const uchar*>(data);
+    const uchar* end = it + size;
+    while (it != end) {
+        quint64 eightBytes = 0;
+        if (end - it >= 8 && (std::memcpy(&eightBytes, it, 8), (eightBytes & 0x8080808080808080ull) == 0)) {
+            it += 8; // all ASCII
+            continue;
+        }
+        if (*it < 0x80) {
+            ++it;
+            continue;
+        }
+        int length = 0;
+        uint minimum = 0;
+        uint codePoint = 0;
+        if ((*it & 0xE0) == 0xC0) {
+            length = 2, minimum = 0x80, codePoint = *it & 0x1F;
+        } else if ((*it & 0xF0) == 0xE0) {
+            length = 3, minimum = 0x800, codePoint = *it & 0x0F;
+        } else if ((*it & 0xF8) == 0xF0) {
+            length = 4, minimum = 0x10000, codePoint = *it & 0x07;
+        } else {
+            return false;
+        }
+        if (end - it < length)
+            return false;
+        for (int index = 1; index < length; ++index) {
+            if ((it[index] & 0xC0) != 0x80)
+                return false;
+            codePoint = (codePoint << 6) | (it[index] & 0x3F);
+        }
+        if (codePoint < minimum || codePoint > 0x10FFFF || (codePoint >= 0xD800 && codePoint <= 0xDFFF))
+            return false;
+        it += length;
+    }
+    return true;
+}
+
+void removeCarriageReturns(QString& text)
+{
+    if (text.contains(QLatin1Char('\r')))
+        text.remove(QLatin1Char('\r'));
 }
 
 QString encodingName(Encoding encoding)

@@ -59,6 +59,10 @@ bool isExcludedByName(const QString& filePath);
 // The bytes of a regular file.
 Result readBytes(const QString& filePath, QByteArray* bytes);
 
+// The whole file as text, read as a text-mode stream reads it (carriage returns dropped); empty
+// when the file cannot be read or decoded.
+Result readText(const QString& filePath, QString* text);
+
 /*
   The bytes of a regular file read for processing once: where the system allows it, the file is
   mapped into memory instead of being copied, which spares the time and the memory of a copy. The
@@ -91,6 +95,11 @@ Result readContent(const QString& filePath, FileContent* content);
 // they are not valid in that encoding.
 Result decode(const QByteArray& bytes, QString* text, Encoding* encoding);
 QByteArray encode(const QString& text, Encoding encoding);
+// Whether bytes are valid UTF-8 as the decoder reads them: no stray continuation bytes, cut-off or
+// overlong sequences, encoded surrogates or code points beyond U+10FFFF.
+bool isValidUtf8(const char* data, int size);
+// A text-mode read drops every carriage return.
+void removeCarriageReturns(QString& text);
 QString encodingName(Encoding encoding);
 
 /*

@@ -12,9 +12,11 @@ namespace {
 const QLatin1String programName("twc-translate");
 const QLatin1String rewriteMode("rewrite-tr");
 const QLatin1String treeOption("--tree");
+const QLatin1String mockMode("mock");
+const QLatin1String keepNumerusOption("--keep-numerus");
 
 // The modes in the order of the dialog's list; rewrite-tr stands for its whole-project entry.
-const std::pair<QLatin1String, int> fileModes[] = {
+const std::pair<QLatin1String, TranslationRunner::Operation> fileModes[] = {
     {QLatin1String("fix"), TranslationRunner::FixTags},
     {QLatin1String("mock"), TranslationRunner::MockSwedish},
     {QLatin1String("count-braces"), TranslationRunner::CountBraces},
@@ -42,6 +44,7 @@ QString TranslationCommandLine::helpText()
 {
     return QStringLiteral(
         "Usage: twc-translate MODE FILE...\n"
+        "       twc-translate mock --keep-numerus FILE...\n"
         "       twc-translate rewrite-tr --tree [DIR]\n"
         "\n"
         "Runs the mock-translation tool on translation (.ts), header and source files and prints\n"
@@ -50,6 +53,14 @@ QString TranslationCommandLine::helpText()
         "Modes:\n"
         "  fix               repair the translation tags of a .ts file; writes FILE.fix\n"
         "  mock              fill the translations of a .ts file with mock Swedish; writes FILE.swe\n"
+        "                    (as the dialog does: each translation becomes one text)\n"
+        "  mock --keep-numerus\n"
+        "                    the same, but a numerus message (numerus=\"yes\") keeps one <numerusform>\n"
+        "                    per form it has (at least one), each with the mock Swedish of its\n"
+        "                    source, and <lengthvariant> forms are kept alike. Use it when the .swe\n"
+        "                    file goes to lrelease, which refuses a numerus message whose\n"
+        "                    translation is one text: any lupdate output of code with tr(\"...%n...\")\n"
+        "                    has such messages\n"
         "  count-braces      count the opening '<' and closing '>' angle brackets\n"
         "  count-numerus     count the numerus entries (numerus=\"yes\")\n"
         "  check-braces      check that the angle brackets balance\n"
@@ -95,9 +106,14 @@ int TranslationCommandLine::run(const QStringList& arguments)
 
     QStringList files;
     bool optionsEnded = false;
+    auto forms = TranslationFileTool::Forms::Flatten;
     for (const QString& argument : rest.mid(1)) {
         if (!optionsEnded && argument == QLatin1String("--")) {
             optionsEnded = true;
+        } else if (!optionsEnded && argument == keepNumerusOption) {
+            if (mode != mockMode)
+                return usageError(QStringLiteral("--keep-numerus goes with mock only."));
+            forms = TranslationFileTool::Forms::Keep;
         } else if (!optionsEnded && argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
             return usageError(argument == treeOption ? QStringLiteral("--tree goes right after rewrite-tr.")
                                                      : QStringLiteral("unknown option \"%1\".").arg(argument));
@@ -107,10 +123,10 @@ int TranslationCommandLine::run(const QStringList& arguments)
     }
     if (files.isEmpty())
         return usageError(QStringLiteral("no FILE given."));
-    return runOnFiles(mode, files);
+    return runOnFiles(mode, files, forms);
 }
 
-int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& files)
+int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& files, TranslationFileTool::Forms forms)
 {
     const TranslationFileTool tool;
     const TranslationRunner runner(tool, [this](const QString& message) { print(message); });
@@ -125,7 +141,8 @@ int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& f
         if (withHeader && messageOnFailure)
             print(file + QLatin1Char(':'));
         const TranslationRunner::Result result =
-            mode == rewriteMode ? runner.rewriteFile(file) : runner.runOnFile(operation, file);
+            mode == rewriteMode ? runner.rewriteFile(file)
+                                : runner.runOnFile(TranslationRunner::Operation(operation), file, forms);
         if (result.succeeded || messageOnFailure) {
             if (withHeader && !messageOnFailure)
                 print(file + QLatin1Char(':'));
@@ -133,7 +150,7 @@ int TranslationCommandLine::runOnFiles(const QString& mode, const QStringList& f
                 print(result.message);
         }
         if (!result.succeeded) {
-            printProblem(result.problem);
+            printProblem(result.skipped.isEmpty() ? result.problem : result.skipped);
             exitCode = FileFailed;
         }
     }
@@ -174,7 +191,8 @@ void TranslationCommandLine::printProblem(const QString& problem)
 int TranslationCommandLine::usageError(const QString& problem)
 {
     m_err << programName << ": " << problem << '\n'
-          << "Usage: twc-translate MODE FILE... | twc-translate rewrite-tr --tree [DIR]\n"
+          << "Usage: twc-translate MODE FILE... | twc-translate mock --keep-numerus FILE...\n"
+          << "       | twc-translate rewrite-tr --tree [DIR]\n"
           << "Modes: fix, mock, count-braces, count-numerus, check-braces, count-unfinished, rewrite-tr.\n"
           << "Try \"twc-translate --help\" for more.\n";
     m_err.flush();

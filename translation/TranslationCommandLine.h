@@ -1,5 +1,7 @@
 #pragma once
 
+#include "TranslationFileTool.h"
+
 #include <QStringList>
 
 class QTextStream;
@@ -25,7 +27,7 @@ public:
 
 private:
     int usageError(const QString& problem);
-    int runOnFiles(const QString& mode, const QStringList& files);
+    int runOnFiles(const QString& mode, const QStringList& files, TranslationFileTool::Forms forms);
     int runOnTree(const QStringList& arguments);
     void print(const QString& message);
     void printProblem(const QString& problem);

@@ -1,5 +1,7 @@
 #include "TranslationRunner.h"
 
+#include "StandardOutput.h"
+#include "TranslationFileCounter.h"
 #include "TranslationFileTool.h"
 #include "TranslationMessages.h"
 
@@ -15,6 +17,22 @@ void addProblem(TranslationRunner::Result& result, const QString& problem)
         result.problem += QLatin1Char('\n');
     result.problem += problem;
 }
+
+void noteSkipped(const TextFileIo::Result& outcome)
+{
+    StandardOutput::printLine(TranslationMessages::fileProblem(outcome).toLocal8Bit());
+}
+
+void addFailure(TranslationRunner::Result& result, const TextFileIo::Result& outcome)
+{
+    if (outcome.status != TextFileIo::Status::Excluded) {
+        addProblem(result, TranslationMessages::fileProblem(outcome));
+        return;
+    }
+    result.succeeded = false;
+    result.skipped = TranslationMessages::fileProblem(outcome);
+    noteSkipped(outcome);
+}
 } // namespace
 
 TranslationRunner::TranslationRunner(const TranslationFileTool& tool, Progress progress)
@@ -22,7 +40,8 @@ TranslationRunner::TranslationRunner(const TranslationFileTool& tool, Progress p
     , m_progress(std::move(progress))
 {}
 
-TranslationRunner::Result TranslationRunner::runOnFile(int operation, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::runOnFile(Operation operation, const QString& filePath,
+                                                       TranslationFileTool::Forms forms) const
 {
     switch (operation) {
     case CountBraces:
@@ -31,13 +50,13 @@ TranslationRunner::Result TranslationRunner::runOnFile(int operation, const QStr
     case CountUnfinished:
         return count(operation, filePath);
     case MockSwedish:
-        return translate(TranslationFileTool::MockSwedish, filePath);
+        return translate(TranslationFileTool::MockSwedish, forms, filePath);
     default:
-        return translate(TranslationFileTool::FixTags, filePath);
+        return translate(TranslationFileTool::FixTags, forms, filePath);
     }
 }
 
-TranslationRunner::Result TranslationRunner::count(int operation, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::count(Operation operation, const QString& filePath) const
 {
     QString content;
     const TextFileIo::Result read = m_tool.readText(filePath, &content);
@@ -48,30 +67,30 @@ TranslationRunner::Result TranslationRunner::count(int operation, const QString&
             TranslationMessages::braceCounts(content.count(QLatin1Char('<')), content.count(QLatin1Char('>')));
         break;
     case CountNumerus:
-        result.message = TranslationMessages::numerusCount(content.count(QLatin1String("numerus=\"yes\"")));
+        result.message = TranslationMessages::numerusCount(TranslationFileCounter::numerusIn(content));
         break;
     case CheckBraces:
-        result.message = TranslationMessages::braceCheck(m_tool.checkBracesInContent(content));
+        result.message = TranslationMessages::braceCheck(TranslationFileCounter::bracesBalanceIn(content));
         break;
     default:
-        result.message =
-            TranslationMessages::unfinishedCount(content.count(QLatin1String("<translation type=\"unfinished\">")));
+        result.message = TranslationMessages::unfinishedCount(TranslationFileCounter::unfinishedIn(content));
         break;
     }
     // An unreadable file counts as empty; the problem says why.
     if (!read.ok())
-        addProblem(result, TranslationMessages::fileProblem(read));
+        addFailure(result, read);
     return result;
 }
 
-TranslationRunner::Result TranslationRunner::translate(int mode, const QString& filePath) const
+TranslationRunner::Result TranslationRunner::translate(TranslationFileTool::Mode mode, TranslationFileTool::Forms forms,
+                                                       const QString& filePath) const
 {
     report(TranslationMessages::processing());
     Result result;
-    const TextFileIo::Result processed = m_tool.processTs(filePath, mode);
+    const TextFileIo::Result processed = m_tool.processTs(filePath, mode, forms);
     result.message = TranslationMessages::translated(processed.ok());
     if (!processed.ok())
-        addProblem(result, TranslationMessages::fileProblem(processed));
+        addFailure(result, processed);
     return result;
 }
 
@@ -81,7 +100,7 @@ TranslationRunner::Result TranslationRunner::rewriteFile(const QString& filePath
     Result result;
     const TextFileIo::Result rewritten = m_tool.rewriteTrCalls(filePath);
     if (!rewritten.ok())
-        addProblem(result, TranslationMessages::fileProblem(rewritten));
+        addFailure(result, rewritten);
     return result;
 }
 
@@ -95,8 +114,10 @@ TranslationRunner::Result TranslationRunner::rewriteTree(const QString& root) co
     m_tool.processDirectory(
         root, [this](const QString& filePath) { report(TranslationMessages::processingFile(filePath)); },
         [&result](const TextFileIo::Result& done) {
-            // "Rg" files are left out of every walk on purpose.
-            if (!done.ok() && done.status != TextFileIo::Status::Excluded)
+            // "Rg" files are left out of every walk on purpose: no failure.
+            if (done.status == TextFileIo::Status::Excluded)
+                noteSkipped(done);
+            else if (!done.ok())
                 addProblem(result, TranslationMessages::fileProblem(done));
         });
     result.message = TranslationMessages::replacingFinished();

@@ -2,16 +2,74 @@
 
 #include <QRegExp>
 
-QString TranslationOracle::processTsContent(const QString& content, int mode)
+namespace {
+// The last "<message" between the previous entry and this one opens a tag with numerus="yes".
+bool isNumerusMessage(const QString& text, int from, int to)
+{
+    const int message = text.mid(from, to - from).lastIndexOf("<message");
+    QRegExp tag(QStringLiteral("<message[^>]*>"));
+    return message >= 0 && tag.indexIn(text, from + message) == from + message &&
+           tag.cap(0).contains("numerus=\"yes\"");
+}
+
+/*
+  Every element of that name gets the mock as its content, or a numerus form its length variants
+  filled: "<name" before '>', '/' or a blank opens an element, the next '>' ends its tag, and a tag
+  that does not end in "/>" runs to the next "</name>".
+*/
+QString fillElements(const QString& text, const QString& name, const QString& mock, bool* found)
+{
+    QRegExp open("<" + name + "([/ \\t\\n\\r][^>]*)?>");
+    const QString close = "</" + name + ">";
+    QString result = text;
+    *found = false;
+    for (int pos = open.indexIn(result, 0); pos != -1;) {
+        const QString tag = open.cap(0);
+        const bool selfClosing = tag.endsWith("/>");
+        const int contentBegin = pos + tag.length();
+        const int closeAt = selfClosing ? contentBegin : result.indexOf(close, contentBegin);
+        if (closeAt < 0)
+            break;
+        bool variants = false;
+        const QString inner =
+            name == "numerusform" && !selfClosing
+                ? fillElements(result.mid(contentBegin, closeAt - contentBegin), "lengthvariant", mock, &variants)
+                : QString();
+        const QString element = (selfClosing ? tag.chopped(2) + ">" : tag) + (variants ? inner : mock) + close;
+        result.replace(pos, closeAt + (selfClosing ? 0 : close.length()) - pos, element);
+        *found = true;
+        pos = open.indexIn(result, pos + element.length());
+    }
+    return result;
+}
+
+QString translationKeepingForms(const QString& translation, const QString& mock, bool numerus)
+{
+    bool found = false;
+    if (numerus) {
+        const QString forms = fillElements(translation, "numerusform", mock, &found);
+        return ">" + (found ? forms : "<numerusform>" + mock + "</numerusform>");
+    }
+    const QString variants = fillElements(translation, "lengthvariant", mock, &found);
+    return found ? " variants=\"yes\">" + variants : ">" + mock;
+}
+} // namespace
+
+QString TranslationOracle::processTsContent(const QString& content, int mode, bool keepForms)
 {
     QRegExp entry(QStringLiteral("(<source>(.*)</source>.*<translation)([^>]*)>(.*)</translation>"), Qt::CaseSensitive,
                   QRegExp::RegExp);
     entry.setMinimal(true);
     QString text = content;
+    int previousEnd = 0;
     int pos = entry.indexIn(text, 0);
     while (pos != -1) {
         QString replacement;
-        if (isBlank(entry.cap(2)))
+        if (keepForms && mode == 1) {
+            const QString translation = isBlank(entry.cap(2)) ? entry.cap(2) : mockSwedish(entry.cap(2));
+            const bool numerus = isNumerusMessage(text, previousEnd, pos);
+            replacement = entry.cap(1) + translationKeepingForms(entry.cap(4), translation, numerus) + "</translation>";
+        } else if (isBlank(entry.cap(2)))
             replacement = entry.cap(1) + ">" + entry.cap(2) + "</translation>";
         else if (mode == 1)
             replacement = entry.cap(1) + ">" + mockSwedish(entry.cap(2)) + "</translation>";
@@ -20,7 +78,8 @@ QString TranslationOracle::processTsContent(const QString& content, int mode)
         else
             replacement = entry.cap(1) + ">" + entry.cap(4) + "</translation>";
         text.replace(pos, entry.matchedLength(), replacement);
-        pos = entry.indexIn(text, pos + replacement.length());
+        previousEnd = pos + replacement.length();
+        pos = entry.indexIn(text, previousEnd);
     }
     return text;
 }

@@ -10,7 +10,8 @@
 class TranslationOracle
 {
 public:
-    static QString processTsContent(const QString& content, int mode);
+    // With keepForms, mock Swedish (mode 1) fills the numerus forms and length variants instead.
+    static QString processTsContent(const QString& content, int mode, bool keepForms = false);
     static QString replaceTrCalls(const QString& content, const QString& context);
     static QString mockSwedish(const QString& source);
     static bool isBlank(const QString& text);

@@ -1,0 +1,1 @@
+<message numerus="yes"><source>Open</source><translation><numerusform/> <numerusform /></translation></message><message numerus="yes"><source>Save</source><translation type="unfinished"></translation></message>

@@ -1,0 +1,7 @@
+<message numerus="yes">
+    <source>%n file(s)</source>
+    <translation type="unfinished">
+        <numerusform></numerusform>
+        <numerusform></numerusform>
+    </translation>
+</message>

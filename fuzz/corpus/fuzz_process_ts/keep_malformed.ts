@@ -1,0 +1,1 @@
+<message numerus="yes"><source>a</source><translation><numerusforms>x</numerusforms><numerusform>y<numerusform attr="1"></translation><message numerus="yes"<source>b</source><translation><numerusform</translation><message><source>c</source><translation><lengthvariant>d</translation>
