@@ -15,6 +15,10 @@
 #include <QMouseEvent>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QTranslator>
+
+#include <functional>
 
 // The named descendant of `parent`; a missing one ends the test run with a message naming it,
 // because no check can go on without it.
@@ -75,6 +79,41 @@ inline bool dropOn(QAbstractItemView* view, const QMimeData* data, QPoint positi
     QApplication::sendEvent(view->viewport(), &drop);
     return drop.isAccepted();
 }
+
+// Runs the action on the next modal window of the class once its modal loop has started; the
+// action ends the window.
+template<typename T>
+void onNextModal(const std::function<void(T*)>& action)
+{
+    auto* timer = new QTimer;
+    timer->setInterval(5);
+    QObject::connect(timer, &QTimer::timeout, [timer, action] {
+        if (auto* window = qobject_cast<T*>(QApplication::activeModalWidget())) {
+            timer->stop();
+            timer->deleteLater();
+            action(window);
+        }
+    });
+    timer->start();
+}
+
+// The mock Swedish translation that the build makes, installed while this lives. Not loaded when
+// the build had no lupdate and lrelease.
+class MockTranslation
+{
+public:
+    MockTranslation()
+        : m_loaded(
+              m_translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")) &&
+              QCoreApplication::installTranslator(&m_translator))
+    {}
+    ~MockTranslation() { QCoreApplication::removeTranslator(&m_translator); }
+    bool loaded() const { return m_loaded; }
+
+private:
+    QTranslator m_translator;
+    bool m_loaded;
+};
 
 struct StatusWord
 {

@@ -134,8 +134,11 @@ void TestConverterUtilityFrame::incompleteChoices()
     QCOMPARE(frame->convert(), -1);
     QVERIFY(frame->messages().isEmpty());
     QVERIFY(frame->findChild<QLabel*>("outcome")->text().contains("/no/such/directory"));
+    QVERIFY(!frame->findChild<QLabel*>("outcome")->property("success").toBool());
     frame->setOutputDirectory(QString());
     QVERIFY(!frame->findChild<QPushButton*>("convert")->isEnabled());
+    QCOMPARE(frame->convert(), -1);
+    QVERIFY(!frame->findChild<QLabel*>("outcome")->property("success").toBool());
 }
 
 void TestConverterUtilityFrame::pickersUseTheConfiguration()

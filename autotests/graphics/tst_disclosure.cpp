@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "TestDisclosure.h"
 
 #include <VNBarChart.h>
@@ -51,6 +52,7 @@ private slots:
     void resizeHandleChangesHeight();
     void barChartPaintsBars();
     void settingsRoundTrip();
+    void enabledSwitchesCurrentDisclosure();
     void calculateDisablesButKeepsVisible();
 };
 
@@ -177,6 +179,15 @@ void DisclosureTest::groupSingleMode()
     QCOMPARE(disclosures[0]->isOpen(), false);
     QCOMPARE(disclosures[2]->isOpen(), true);
 
+    auto* newcomer = new VNProgressiveDisclosure(&window);
+    newcomer->setAnimationDuration(0);
+    group.add(newcomer);
+    QVERIFY(!newcomer->isOpen());
+    QVERIFY(disclosures[2]->isOpen());
+    group.remove(newcomer);
+    newcomer->setOpen(true);
+    QVERIFY(disclosures[2]->isOpen());
+
     group.setGlobalSingleMode(false);
     disclosures[0]->setOpen(true);
     QCOMPARE(disclosures[2]->isOpen(), true);
@@ -254,32 +265,72 @@ void DisclosureTest::barChartPaintsBars()
     QCOMPARE(QColor(image.pixel(second.center())), QColor("forestgreen"));
 }
 
+// Apply writes every field into the disclosure chosen in "Current Disclosure", and only into it.
 void DisclosureTest::settingsRoundTrip()
 {
     TestDisclosure dialog(nullptr);
-    auto* current = dialog.findChild<QComboBox*>(QStringLiteral("m_progressiveDisclosure"));
+    auto* current = child<QComboBox>(&dialog, QStringLiteral("m_progressiveDisclosure"));
     current->setCurrentIndex(1);
-    auto* caption = dialog.findChild<QLineEdit*>(QStringLiteral("m_widgetCaption"));
+    auto* caption = child<QLineEdit>(&dialog, QStringLiteral("m_widgetCaption"));
     QCOMPARE(caption->text(), QStringLiteral("Curves"));
-    QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("m_stateLabel"))->text(), QStringLiteral("2 Curve(s)"));
+    auto* stateText = child<QLineEdit>(&dialog, QStringLiteral("m_stateLabel"));
+    QCOMPARE(stateText->text(), QStringLiteral("2 Curve(s)"));
 
     caption->setText(QStringLiteral("Splines"));
-    dialog.findChild<QComboBox*>(QStringLiteral("m_showTopLine"))->setCurrentIndex(1);
-    dialog.findChild<QComboBox*>(QStringLiteral("m_showBottomLine"))->setCurrentIndex(0);
-    dialog.findChild<QCheckBox*>(QStringLiteral("m_optionalCheck"))->setChecked(true);
-    QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("m_applyBtn")), Qt::LeftButton);
+    stateText->setText(QStringLiteral("3 Splines"));
+    child<QLineEdit>(&dialog, QStringLiteral("m_infoButtonText"))->setText(QStringLiteral("About splines"));
+    const struct
+    {
+        const char* combo;
+        int mode;
+        int (VNProgressiveDisclosure::*written)() const;
+    } modes[] = {{"m_showStateLabel", 1, &VNProgressiveDisclosure::getShowStateLabel},
+                 {"m_showInfoButton", 1, &VNProgressiveDisclosure::getShowInfoButton},
+                 {"m_showTopLine", 2, &VNProgressiveDisclosure::getShowTopLine},
+                 {"m_showBottomLine", 0, &VNProgressiveDisclosure::getShowBottomLine}};
+    auto* curves = child<VNProgressiveDisclosure>(&dialog, QStringLiteral("progressiveDisclosure1"));
+    for (const auto& entry : modes) {
+        QVERIFY2((curves->*entry.written)() != entry.mode, entry.combo);
+        child<QComboBox>(&dialog, QLatin1String(entry.combo))->setCurrentIndex(entry.mode);
+    }
+    clickButton(&dialog, QStringLiteral("m_optionalCheck"));
+    clickButton(&dialog, QStringLiteral("m_applyBtn"));
 
-    auto* curves = dialog.findChild<VNProgressiveDisclosure*>(QStringLiteral("progressiveDisclosure1"));
     QCOMPARE(curves->getWidgetCaption(), QStringLiteral("Splines"));
-    QCOMPARE(curves->getShowTopLine(), 1);
-    QCOMPARE(curves->getShowBottomLine(), 0);
+    QCOMPARE(curves->getStateLabelText(), QStringLiteral("3 Splines"));
+    QCOMPARE(part(*curves, "stateLabel")->property("text").toString(), QStringLiteral("3 Splines"));
+    QCOMPARE(curves->getInfoButtonText(), QStringLiteral("About splines"));
+    for (const auto& entry : modes)
+        QVERIFY2((curves->*entry.written)() == entry.mode, entry.combo);
     QVERIFY(curves->isOptionalCheckVisible());
     QCOMPARE(current->itemText(1), QStringLiteral("Splines"));
 
     current->setCurrentIndex(0);
     QCOMPARE(caption->text(), QStringLiteral("Settings"));
+    QCOMPARE(child<VNProgressiveDisclosure>(&dialog, QStringLiteral("progressiveDisclosure0"))->getStateLabelText(),
+             stateText->text());
     current->setCurrentIndex(1);
     QCOMPARE(caption->text(), QStringLiteral("Splines"));
+    QCOMPARE(stateText->text(), QStringLiteral("3 Splines"));
+}
+
+// "Widget Enabled" switches the content of the current disclosure, and only of it.
+void DisclosureTest::enabledSwitchesCurrentDisclosure()
+{
+    TestDisclosure dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    child<QComboBox>(&dialog, QStringLiteral("m_progressiveDisclosure"))->setCurrentIndex(2);
+    auto* list = child<VNProgressiveDisclosure>(&dialog, QStringLiteral("progressiveDisclosure2"));
+    auto* settings = child<VNProgressiveDisclosure>(&dialog, QStringLiteral("progressiveDisclosure0"));
+    QVERIFY(list->isWidgetEnabled());
+    clickButton(&dialog, QStringLiteral("m_enabled"));
+    QVERIFY(!list->isWidgetEnabled());
+    QVERIFY(!child<QWidget>(&dialog, QStringLiteral("listWidget"))->isEnabled());
+    QVERIFY(settings->isWidgetEnabled());
+    clickButton(&dialog, QStringLiteral("m_enabled"));
+    QVERIFY(list->isWidgetEnabled());
+    QVERIFY(child<QWidget>(&dialog, QStringLiteral("listWidget"))->isEnabled());
 }
 
 void DisclosureTest::calculateDisablesButKeepsVisible()

@@ -1,11 +1,13 @@
 #include "TestFlipWidget.h"
 
 #include <FlipWidget.h>
+#include <LayoutVisualizationFilter.h>
 
 #include <QApplication>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
 #include <QVariantAnimation>
@@ -43,6 +45,9 @@ void FlipWidgetTest::flipButtonsTurnAndKeepState()
     auto* spinBox = dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox"));
     slider->setValue(42);
     QCOMPARE(flip->currentWidget()->objectName(), QStringLiteral("frame1"));
+    // The dialog shows its layouts for inspection.
+    auto* layouts = dialog.findChild<LayoutVisualizationFilter*>();
+    QVERIFY(layouts && layouts->isInstalledOn(&dialog));
 
     QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("flip1")), Qt::LeftButton);
     QVERIFY(flip->isFlipping());
@@ -87,9 +92,27 @@ void FlipWidgetTest::flipPaintsTurningPage()
     image = flip->grab().toImage();
     QCOMPARE(QColor(image.pixel(100, 50)), QColor(Qt::blue));
     QVERIFY(QColor(image.pixel(2, 50)) != QColor(Qt::blue));
+    QSignalSpy flipped(flip, &FlipWidget::flipped);
     animation->setCurrentTime(animation->duration());
     QVERIFY(!flip->isFlipping());
     QCOMPARE(QColor(flip->grab().toImage().pixel(2, 50)), QColor(Qt::blue));
+    QCOMPARE(flipped.count(), 1);
+    QCOMPARE(flipped.last().first().toInt(), 1);
+
+    // A second flip during a turn ends the turn first and turns back.
+    flip->flip();
+    flip->flip();
+    QVERIFY(flip->isFlipping());
+    animation->setCurrentTime(animation->duration());
+    QCOMPARE(flip->currentIndex(), 1);
+    QCOMPARE(flipped.count(), 3);
+    // Without animation the page turns at once.
+    flip->setAnimationDuration(0);
+    flip->flip();
+    QVERIFY(!flip->isFlipping());
+    QCOMPARE(flip->currentIndex(), 0);
+    QVERIFY(front->isVisible());
+    QCOMPARE(flipped.last().first().toInt(), 0);
 }
 
 QTEST_MAIN(FlipWidgetTest)

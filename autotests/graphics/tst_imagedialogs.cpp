@@ -14,11 +14,14 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <memory>
 
 namespace {
 QImage imageOf(const QLabel* label)
@@ -129,6 +132,9 @@ private slots:
     void svgUpdateAppliesReplacements();
     void svgEditedSourceMode();
     void svgCancelAndInvalidFiles();
+
+    void filtersStayPatterns_data();
+    void filtersStayPatterns();
 };
 
 void TestImageDialogs::cleanup()
@@ -407,6 +413,60 @@ void TestImageDialogs::svgCancelAndInvalidFiles()
     QCOMPARE(child<QLineEdit>(&dialog, "m_filePath")->text(), defaultSvg);
     QCOMPARE(child<QWidget>(&dialog, "replaceList")->findChildren<QComboBox*>().size(), 4);
     QCOMPARE(dialog.invalidReports, 3);
+}
+
+void TestImageDialogs::filtersStayPatterns_data()
+{
+    QTest::addColumn<QString>("dialog");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("compare: load PNG") << "compare"
+                                       << "loadPngButton"
+                                       << "icon.png";
+    QTest::newRow("compare: load SVG") << "compare"
+                                       << "loadSvgButton"
+                                       << "icon.svg";
+    QTest::newRow("compare: export") << "compare"
+                                     << "exportButton"
+                                     << "icons.png";
+    QTest::newRow("compose: load") << "compose"
+                                   << "loadButton"
+                                   << "photo.jpg";
+    QTest::newRow("compose: save") << "compose"
+                                   << "saveButton"
+                                   << "photo.xpm";
+    QTest::newRow("svg: open") << "svg"
+                               << "openFile"
+                               << "icon.svg";
+}
+
+// Under any translation the file dialogs still list the files they ask for: captions may be
+// translated, patterns never (a mock "*.sfg" would hide every SVG file).
+void TestImageDialogs::filtersStayPatterns()
+{
+    QFETCH(QString, dialog);
+    QFETCH(QString, button);
+    QFETCH(QString, file);
+    const MockTranslation mock;
+    if (!mock.loaded())
+        QSKIP("built without lupdate and lrelease");
+    std::unique_ptr<QDialog> window;
+    if (dialog == QLatin1String("compose")) {
+        expectComposeConnectWarnings();
+        window.reset(new TestComposePixmap(nullptr));
+    } else if (dialog == QLatin1String("compare")) {
+        window.reset(new TestCompareIcons(nullptr));
+    } else {
+        window.reset(new TestSVG(nullptr));
+    }
+    QString filter;
+    onNextModal<QFileDialog>([&filter](QFileDialog* files) {
+        filter = files->nameFilters().value(0);
+        files->reject();
+    });
+    clickButton(window.get(), button);
+    const QString patterns = filter.section(QLatin1Char('('), 1).section(QLatin1Char(')'), 0, 0);
+    QVERIFY2(QDir::match(patterns, file), qPrintable(filter));
 }
 
 QTEST_MAIN(TestImageDialogs)

@@ -13,7 +13,6 @@
 #include <QSpinBox>
 #include <QTest>
 #include <QTextEdit>
-#include <QTranslator>
 
 namespace {
 QFrame* frame(QWidget& dialog)
@@ -184,6 +183,13 @@ void LayoutExampleTest::myButtonSwapKeepsPlaceAndSettings()
     QCOMPARE(myButton->extraSize().width(), 50);
     QVERIFY(code->toPlainText().contains(QStringLiteral("QSize(50,20)")));
 
+    // The size fields follow the new button.
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    child<QSpinBox>(&dialog, "minSizeW")->setValue(150);
+    QTRY_VERIFY(myButton->width() >= 150);
+    QCOMPARE(child<QLineEdit>(&dialog, "sizeW")->text(), QString::number(myButton->width()));
+
     QTest::mouseClick(child<QCheckBox>(&dialog, "useMyButton"), Qt::LeftButton);
     QPushButton* plain = buttonUnderTest(dialog);
     QVERIFY(!qobject_cast<MyButton*>(plain));
@@ -217,20 +223,15 @@ void LayoutExampleTest::resetKeepsMyButton()
 // The policy and layout items are code names that the slots convert back: translations keep them.
 void LayoutExampleTest::policiesWorkTranslated()
 {
-    if (!TWC_HAS_MOCK_TRANSLATION)
+    const MockTranslation mock;
+    if (!mock.loaded())
         QSKIP("built without lupdate and lrelease");
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/TestWidgetCollection/Translations/testwidgetcollection_mock.qm")));
-    QCoreApplication::installTranslator(&translator);
-    {
-        TestLayoutExample dialog(nullptr);
-        QVERIFY(child<QPushButton>(&dialog, "resetBtn")->text() != QStringLiteral("Rest"));
-        QCOMPARE(child<QComboBox>(&dialog, "comboLayout")->itemText(2), QStringLiteral("QGridLayout"));
-        QCOMPARE(buttonUnderTest(dialog)->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
-        child<QComboBox>(&dialog, "comboVSizePolicy")->setCurrentIndex(6);
-        QCOMPARE(buttonUnderTest(dialog)->sizePolicy().verticalPolicy(), QSizePolicy::Ignored);
-    }
-    QCoreApplication::removeTranslator(&translator);
+    TestLayoutExample dialog(nullptr);
+    QVERIFY(child<QPushButton>(&dialog, "resetBtn")->text() != QStringLiteral("Rest"));
+    QCOMPARE(child<QComboBox>(&dialog, "comboLayout")->itemText(2), QStringLiteral("QGridLayout"));
+    QCOMPARE(buttonUnderTest(dialog)->sizePolicy().horizontalPolicy(), QSizePolicy::Minimum);
+    child<QComboBox>(&dialog, "comboVSizePolicy")->setCurrentIndex(6);
+    QCOMPARE(buttonUnderTest(dialog)->sizePolicy().verticalPolicy(), QSizePolicy::Ignored);
 }
 
 QTEST_MAIN(LayoutExampleTest)

@@ -1,7 +1,9 @@
+#include "../TestSupport.h"
 #include "TestProgressComposition.h"
 
 #include <VNMultiProgressBar.h>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -50,6 +52,9 @@ private slots:
 
     void initialSettingsAndDefaultSize();
     void setupBuildsNamedOperations();
+    void stepSingleAddsTen();
+    void animationTicks_data();
+    void animationTicks();
     void noOperationsAcceptOnlyMinusOne();
     void linearAnimationFillsEveryOperation();
     void circularAnimationMovesOnePerTick();
@@ -58,6 +63,7 @@ private slots:
     void stretchModes_data();
     void stretchModes();
     void circularLookIsDrawn();
+    void rowFillsByStep();
 };
 
 void TestProgressCompositionDialog::cleanup()
@@ -70,25 +76,70 @@ void TestProgressCompositionDialog::initialSettingsAndDefaultSize()
 {
     TestProgressComposition dialog(nullptr);
     Form form(&dialog);
-    QCOMPARE(form.ops->maximum(), 50);
-    QCOMPARE(form.ops->value(), 3);
-    QCOMPARE(form.current->minimum(), -1);
     QVERIFY(form.bar->isCircular());
     dialog.resize(700, 500);
     form.button(&dialog, "resizeDefault")->click();
     QCOMPARE(dialog.width(), 450);
 }
 
+// A new prefix takes effect with "Setup OP's", with Return in the prefix field and with a new count.
 void TestProgressCompositionDialog::setupBuildsNamedOperations()
 {
     TestProgressComposition dialog(nullptr);
     Form form(&dialog);
     form.prefix->setText(QStringLiteral("OP"));
-    form.button(&dialog, "setup")->click();
+    QVERIFY(form.bar->progressItems().value(0) != QStringLiteral("OP10"));
+    clickButton(&dialog, QStringLiteral("setup"));
     QCOMPARE(form.bar->progressItems(), QStringList({"OP10", "OP20", "OP30"}));
+    form.prefix->clear();
+    QTest::keyClicks(form.prefix, QStringLiteral("PX"));
+    QTest::keyClick(form.prefix, Qt::Key_Return);
+    QCOMPARE(form.bar->progressItems(), QStringList({"PX10", "PX20", "PX30"}));
+    form.prefix->setText(QStringLiteral("RX"));
     form.ops->setValue(5);
-    QCOMPARE(form.bar->progressItems().last(), QStringLiteral("OP50"));
+    QCOMPARE(form.bar->progressItems(), QStringList({"RX10", "RX20", "RX30", "RX40", "RX50"}));
     QCOMPARE(form.current->value(), -1);
+}
+
+// "Step +10" moves the current operation's step on by ten from where it stands.
+void TestProgressCompositionDialog::stepSingleAddsTen()
+{
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    clickButton(&dialog, QStringLiteral("setup"));
+    form.current->setValue(1);
+    form.bar->stepCurrent(5);
+    clickButton(&dialog, QStringLiteral("stepSingle"));
+    QCOMPARE(form.bar->currentStep(), 15);
+    clickButton(&dialog, QStringLiteral("stepSingle"));
+    QCOMPARE(form.bar->currentStep(), 25);
+    QCOMPARE(form.bar->current(), 1);
+}
+
+void TestProgressCompositionDialog::animationTicks_data()
+{
+    QTest::addColumn<bool>("circular");
+    QTest::addColumn<int>("interval");
+    QTest::newRow("circular") << true << 3000;
+    QTest::newRow("linear") << false << 200;
+}
+
+// The animation ticks with a coarse timer, slowly for the circular look.
+void TestProgressCompositionDialog::animationTicks()
+{
+    QFETCH(bool, circular);
+    QFETCH(int, interval);
+    TestProgressComposition dialog(nullptr);
+    Form form(&dialog);
+    if (!circular)
+        clickButton(&dialog, QStringLiteral("m_circular"));
+    QCOMPARE(form.bar->isCircular(), circular);
+    clickButton(&dialog, QStringLiteral("startAnimation"));
+    const auto timers = QAbstractEventDispatcher::instance()->registeredTimers(&dialog);
+    QCOMPARE(timers.size(), 1);
+    QCOMPARE(timers.first().timerId, dialog.animationTimerId());
+    QCOMPARE(timers.first().interval, interval);
+    QCOMPARE(timers.first().timerType, Qt::CoarseTimer);
 }
 
 void TestProgressCompositionDialog::noOperationsAcceptOnlyMinusOne()
@@ -195,7 +246,9 @@ void TestProgressCompositionDialog::stretchModes()
     const QRectF first = bar.segmentRect(0);
     const QRectF second = bar.segmentRect(1);
     QCOMPARE(qAbs(first.width() - second.width()) < 0.5, equal);
-    QCOMPARE(bar.segmentRect(2).right() > 595, fillsBar);
+    QCOMPARE(first.left(), 0.0);
+    QVERIFY(second.left() > first.right());
+    QCOMPARE(qRound(bar.segmentRect(2).right()) == 600, fillsBar);
     if (mode == 0)
         QVERIFY(first.width() > second.width());
     if (mode == 2)
@@ -213,6 +266,32 @@ void TestProgressCompositionDialog::circularLookIsDrawn()
     const QImage ring = bar.grab().toImage();
     QVERIFY(row != ring);
     QVERIFY(bar.segmentRect(0).isNull());
+}
+
+// Earlier operations are full, later ones empty; the current one fills as its step runs through
+// its range.
+void TestProgressCompositionDialog::rowFillsByStep()
+{
+    VNMultiProgressBar bar;
+    bar.resize(300, 24);
+    bar.setStretchMode(VNMultiProgressBar::Constant);
+    bar.setProgressItems({QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("C")});
+    bar.setCurrent(1);
+    bar.setRange(1, 20, 60);
+    const auto at = [&bar](int index, double fraction) {
+        const QRectF segment = bar.segmentRect(index);
+        return bar.grab().toImage().pixelColor(int(segment.left() + segment.width() * fraction), 3);
+    };
+    bar.stepCurrent(20);
+    QCOMPARE(at(1, 0.1), at(1, 0.9));
+    bar.stepCurrent(30);
+    QVERIFY(at(1, 0.2) != at(1, 0.3));
+    QCOMPARE(at(1, 0.3), at(1, 0.9));
+    QCOMPARE(bar.getRange(1), qMakePair(20, 60));
+    QCOMPARE(at(0, 0.1), at(0, 0.9));
+    QVERIFY(at(0, 0.5) != at(2, 0.5));
+    QVERIFY(at(0, 0.5) != at(1, 0.1));
+    QCOMPARE(at(2, 0.1), at(2, 0.9));
 }
 
 QTEST_MAIN(TestProgressCompositionDialog)

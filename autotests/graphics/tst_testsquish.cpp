@@ -2,10 +2,12 @@
 #include "TestMasterDetailTree.h"
 #include "TestSquish.h"
 #include "TestTreeDelegates.h"
+#include "TranslationFileTool.h"
 
 #include <VNAdvancedMenu.h>
 #include <VNAnimatedTabBar.h>
 #include <VNContainerWidgetInterface.h>
+#include <VNMessageBox.h>
 #include <VNResultSwitcher.h>
 #include <VNStyleSheet.h>
 #include <VNWidgetInterface.h>
@@ -116,6 +118,7 @@ private slots:
     void disableAndReadOnlyActOnCurrentPage();
     void selectDefaultOnlyForAdvancedMenu();
     void embeddedDialogsDeletedWithGallery();
+    void messageBoxTextStaysEnglish();
     void wordsLookDistinct_data();
     void wordsLookDistinct();
 };
@@ -280,6 +283,25 @@ void TestSquishTest::embeddedDialogsDeletedWithGallery()
     QVERIFY(dialog->findChild<QWidget*>(QStringLiteral("tabMasterDetail"))->isAncestorOf(masterDetail));
     dialog.reset();
     QVERIFY(!delegates && !masterDetail);
+}
+
+// Scripts find the gallery's message box by its text in every locale; its title is translated.
+void TestSquishTest::messageBoxTextStaysEnglish()
+{
+    const MockTranslation mock;
+    if (!mock.loaded())
+        QSKIP("built without lupdate and lrelease");
+    TestSquish dialog(nullptr);
+    QString title;
+    QString text;
+    onNextModal<Varnis::VNMessageBox>([&](Varnis::VNMessageBox* box) {
+        title = child<QLabel>(box, QStringLiteral("titleLabel"))->text();
+        text = child<QLabel>(box, QStringLiteral("textLabel"))->text();
+        box->reject();
+    });
+    clickButton(&dialog, QStringLiteral("m_messageBoxBtn"));
+    QCOMPARE(text, QStringLiteral("This is a default message box"));
+    QCOMPARE(title, TranslationFileTool().mockSwedish(QStringLiteral("Warning")));
 }
 
 void TestSquishTest::wordsLookDistinct_data()

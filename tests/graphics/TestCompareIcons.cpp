@@ -20,6 +20,10 @@ QString folderOf(const QString& path)
 }
 
 const QImage::Format wordFormat = QImage::Format_ARGB32;
+
+// File-dialog filters are patterns: a translated "*.png" would hide every file.
+const QString pngFilter = QStringLiteral("PNG (*.png)");
+const QString svgFilter = QStringLiteral("SVG (*.svg)");
 } // namespace
 
 TestCompareIcons::TestCompareIcons(QWidget* parent)
@@ -37,7 +41,7 @@ TestCompareIcons::~TestCompareIcons() = default;
 
 void TestCompareIcons::loadPng()
 {
-    const QString fileName = chooseOpenFile(tr("Load PNG Icon"), m_lastPngFolder, tr("PNG (*.png)"));
+    const QString fileName = chooseOpenFile(tr("Load PNG Icon"), m_lastPngFolder, pngFilter);
     if (fileName.isEmpty())
         return;
     m_lastPngFolder = folderOf(fileName);
@@ -60,7 +64,7 @@ void TestCompareIcons::loadPng()
 
 void TestCompareIcons::loadSvg()
 {
-    const QString fileName = chooseOpenFile(tr("Load SVG Icon"), m_lastSvgFolder, tr("SVG (*.svg)"));
+    const QString fileName = chooseOpenFile(tr("Load SVG Icon"), m_lastSvgFolder, svgFilter);
     if (fileName.isEmpty())
         return;
     m_lastSvgFolder = folderOf(fileName);
@@ -83,7 +87,7 @@ void TestCompareIcons::loadSvg()
 void TestCompareIcons::exportImage()
 {
     const QString suggestion = m_lastExportFolder + QLatin1Char('/') + m_svgBaseName.mid(1);
-    const QString fileName = chooseSaveFile(tr("Save Image"), suggestion, tr("PNG (*.png)"));
+    const QString fileName = chooseSaveFile(tr("Save Image"), suggestion, pngFilter);
     if (fileName.isEmpty())
         return;
     m_lastExportFolder = folderOf(fileName);

@@ -5,8 +5,8 @@
 #include <FileConverterDialog.h>
 
 TestConverterUtility::TestConverterUtility(QWidget* parent)
-    : m_dialog(new Varnis::FileConverterDialog(new Varnis::TestConverterConfig, tr("TestConverter"),
-                                               tr("This is the description of the converter."), parent))
+    : m_dialog(new Varnis::FileConverterDialog(new Varnis::TestConverterConfig, QStringLiteral("TestConverter"),
+                                               QStringLiteral("This is the description of the converter."), parent))
 {}
 
 void TestConverterUtility::run()

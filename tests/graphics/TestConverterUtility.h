@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
-
 class QWidget;
 
 namespace Varnis {
@@ -9,11 +7,10 @@ class FileConverterDialog;
 }
 
 // Puts the toolkit's file converter frame on screen with a dummy converter. The frame is a child
-// window of the given parent, which deletes it.
+// window of the given parent, which deletes it. Its title and description are names that scripts
+// look for in every locale, so they are not translated.
 class TestConverterUtility
 {
-    Q_DECLARE_TR_FUNCTIONS(TestConverterUtility)
-
 public:
     explicit TestConverterUtility(QWidget* parent);
 

@@ -40,7 +40,7 @@ TestLayoutExample::TestLayoutExample(QWidget* parent)
     m_codeView->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_codeView->setTabChangesFocus(true);
     m_codeView->setAccessibleName(tr("Button source"));
-    auto* lineEdit = new QLineEdit(tr("QLineEdit"), frame);
+    auto* lineEdit = new QLineEdit(QStringLiteral("QLineEdit"), frame);
     lineEdit->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     lineEdit->setAccessibleName(tr("Line edit"));
     m_button = new QPushButton(frame);
@@ -61,7 +61,7 @@ TestLayoutExample::~TestLayoutExample() = default;
 void TestLayoutExample::setStartState()
 {
     comboLayout->setCurrentIndex(0);
-    buttonText->setText(tr("Button"));
+    buttonText->setText(QStringLiteral("Button"));
     minSizeW->setValue(0);
     minSizeH->setValue(0);
     maxSizeW->setValue(16777215);

@@ -6,9 +6,11 @@ TestModuleNavigation::TestModuleNavigation(QWidget* parent)
     : QDialog(parent)
 {
     ui.setupUi(this);
-    // "Adjust" appears twice on purpose: modules are told apart by position, not by name.
-    const QString modules[] = {tr("Nose"),   tr("Adjust"),   tr("Clamp"),    tr("Apron"),
-                               tr("Adjust"), tr("Edgetest"), tr("Shapetest")};
+    // "Adjust" appears twice on purpose: modules are told apart by position, not by name. Module and
+    // group texts are names that scripts look for in every locale.
+    const QString modules[] = {QStringLiteral("Nose"),     QStringLiteral("Adjust"), QStringLiteral("Clamp"),
+                               QStringLiteral("Apron"),    QStringLiteral("Adjust"), QStringLiteral("Edgetest"),
+                               QStringLiteral("Shapetest")};
     for (const QString& module : modules)
         ui.m_moduleNavigation->addButton(module, QString());
     addGroupButton();
@@ -22,9 +24,9 @@ void TestModuleNavigation::addGroupButton()
 {
     const QIcon icon(QStringLiteral(":/Icons/Shared/flip_arrow_16.svg"));
     if (m_compact)
-        ui.m_moduleNavigation->addGroupButton(0, 3, 3, icon, tr("Switch to RX"), true);
+        ui.m_moduleNavigation->addGroupButton(0, 3, 3, icon, QStringLiteral("Switch to RX"), true);
     else
-        ui.m_moduleNavigation->addGroupButton(0, 3, 4, icon, tr("Switch to PX"), false);
+        ui.m_moduleNavigation->addGroupButton(0, 3, 4, icon, QStringLiteral("Switch to PX"), false);
 }
 
 void TestModuleNavigation::onSwitchButtonClicked()
@@ -32,12 +34,12 @@ void TestModuleNavigation::onSwitchButtonClicked()
     m_compact = !m_compact;
     if (!m_compact) {
         ui.m_moduleNavigation->removeButton(3);
-        ui.m_moduleNavigation->insertButton(tr("Adjust"), 3);
-        ui.m_moduleNavigation->insertButton(tr("Apron"), 4);
+        ui.m_moduleNavigation->insertButton(QStringLiteral("Adjust"), 3);
+        ui.m_moduleNavigation->insertButton(QStringLiteral("Apron"), 4);
     } else {
         ui.m_moduleNavigation->removeButton(4);
         ui.m_moduleNavigation->removeButton(3);
-        ui.m_moduleNavigation->insertButton(tr("PX"), 3);
+        ui.m_moduleNavigation->insertButton(QStringLiteral("PX"), 3);
     }
     ui.m_moduleNavigation->setModuleLocked(1, m_compact);
     addGroupButton();

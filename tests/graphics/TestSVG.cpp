@@ -112,8 +112,9 @@ void TestSVG::addItemRow(int index)
     const QString replacement = m_svgImage->getModifiedTextItem(index, &used);
 
     auto* type = new QComboBox(replaceList);
-    type->addItem(tr("Ignore"), ignoreData);
-    type->addItem(tr("Text"), textData);
+    // Scripts choose these entries by their words in every locale.
+    type->addItem(QStringLiteral("Ignore"), ignoreData);
+    type->addItem(QStringLiteral("Text"), textData);
     type->setCurrentIndex(type->findData(used ? textData : ignoreData, Qt::UserRole, Qt::MatchExactly));
     connect(type, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &TestSVG::onChanged);
     gridLayout->addWidget(type, row, 1);
@@ -189,7 +190,9 @@ void TestSVG::on_openFile_clicked()
 
 QString TestSVG::chooseSvgFile()
 {
-    return QFileDialog::getOpenFileName(this, tr("Open File"), QStringLiteral("/home"), tr("SVG Image (*.svg)"));
+    // The filter's caption is translated, its pattern never: a translated one would hide the files.
+    return QFileDialog::getOpenFileName(this, tr("Open File"), QStringLiteral("/home"),
+                                        tr("SVG Image") + QStringLiteral(" (*.svg)"));
 }
 
 void TestSVG::on_m_svgSource_textChanged()

@@ -137,7 +137,8 @@ void TestSquish::setUpMenus()
     setUpCheckBoxGroupMenu();
     setUpAdvancedMenus();
     connect(ui.m_messageBoxBtn, &QPushButton::clicked, this, [this] {
-        Varnis::VNMessageBox::warning(this, tr("Warning"), tr("This is a default message box"), QMessageBox::Ok);
+        Varnis::VNMessageBox::warning(this, tr("Warning"), QStringLiteral("This is a default message box"),
+                                      QMessageBox::Ok);
     });
 }
 
