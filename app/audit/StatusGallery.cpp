@@ -323,7 +323,9 @@ void StatusGallery::record(StatusMatrix& matrix, int family, int word, bool comp
     const QImage picture = subject.grab();
     if (word == 0 && !compare)
         m_plain.insert(family, picture);
-    if (spec.where == Where::FirstTab)
+    // A first tab and a header section have room for one mark: the palette's mark of the word's
+    // dominant status.
+    if (spec.where == Where::FirstTab || spec.where == Where::HeaderSection)
         flags = VNWidgetStatus::getDominantStatusFromFlag(flags);
     const SwatchReader reader(m_plain.value(family), picture, subject.areaInGrab());
     // Disabled widgets are exempt from the text rule, as accessibility guidelines exempt them.

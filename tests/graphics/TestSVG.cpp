@@ -164,7 +164,11 @@ void TestSVG::applyAndRender()
         const QSignalBlocker blocker(m_svgModifiedSource);
         m_svgModifiedSource->setPlainText(m_svgImage->getModifiedSource());
     }
-    m_image->setPixmap(m_svgImage->renderPixmap(QSize(m_width->value(), m_height->value())));
+    // Rendered for the screen's pixels, so that a high-density screen shows it sharp.
+    const qreal ratio = m_image->devicePixelRatioF();
+    QPixmap picture = m_svgImage->renderPixmap(QSize(m_width->value(), m_height->value()) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    m_image->setPixmap(picture);
     updateBtn->setNeedInputStatus(false);
 }
 

@@ -1,4 +1,5 @@
 #include "VNProgressiveDisclosureBtn.h"
+#include "VNFocusMark_p.h"
 #include "VNWidgetStatus.h"
 
 #include <QPainter>
@@ -82,6 +83,9 @@ void VNProgressiveDisclosureBtn::paintEvent(QPaintEvent*)
     const QRect textRect = rect().adjusted(arrowBox + 6, 0, -2, 0);
     painter.drawText(textRect, Qt::AlignLeft | Qt::AlignVCenter,
                      fontMetrics().elidedText(text(), Qt::ElideRight, textRect.width()));
+    // Inside the status bars and the compare frame, so that they keep their colours.
+    if (hasFocus())
+        VNFocusMark::paint(painter, rect().adjusted(6, 2, -6, -2));
 }
 
 void VNProgressiveDisclosureBtn::enterEvent(QEvent* event)

@@ -1,4 +1,5 @@
 #include "VNSlidingCheckBox.h"
+#include "VNFocusMark_p.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -106,4 +107,6 @@ void VNSlidingCheckBox::paintEvent(QPaintEvent*)
         const QRect textRect = contentsRect().adjusted(track.right() + textGap - contentsRect().left(), 0, 0, 0);
         painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft, text());
     }
+    if (hasFocus())
+        VNFocusMark::paint(painter, rect().adjusted(1, 1, -1, -1));
 }
