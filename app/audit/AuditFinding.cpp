@@ -19,6 +19,20 @@ QJsonObject AuditFinding::toJson() const
     return object;
 }
 
+AuditFinding AuditFinding::aboutWidget(const QString& window, QWidget* widget, const QString& check,
+                                       const QString& rule, const QString& message)
+{
+    AuditFinding result;
+    result.window = window;
+    result.objectName = nameOf(widget);
+    result.check = check;
+    result.rule = rule;
+    result.message = message;
+    result.measured.insert(QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className()));
+    result.crop = widget->grab().toImage();
+    return result;
+}
+
 QString AuditFinding::nameOf(const QWidget* widget)
 {
     if (!widget)

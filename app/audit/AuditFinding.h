@@ -32,4 +32,8 @@ struct AuditFinding
     // The widget's object name; a widget without one is named by its nearest named ancestor and
     // its class ("m_vnCustomMenuButton/QLineEdit"), so that robots and the allow-list still find it.
     static QString nameOf(const QWidget* widget);
+
+    // A finding about one widget of a window: named by nameOf(), its class measured, its picture cropped.
+    static AuditFinding aboutWidget(const QString& window, QWidget* widget, const QString& check, const QString& rule,
+                                    const QString& message);
 };

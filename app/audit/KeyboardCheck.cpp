@@ -206,14 +206,5 @@ QImage KeyboardCheck::grabOwner(QWidget* stop) const
 
 AuditFinding KeyboardCheck::finding(QWidget* stop, const QString& rule, const QString& message) const
 {
-    QWidget* owner = TabStops::owner(stop);
-    AuditFinding result;
-    result.window = m_windowName;
-    result.objectName = AuditFinding::nameOf(owner);
-    result.check = AuditFinding::keyboardCheck;
-    result.rule = rule;
-    result.message = message;
-    result.measured.insert(QStringLiteral("class"), QString::fromLatin1(owner->metaObject()->className()));
-    result.crop = owner->grab().toImage();
-    return result;
+    return AuditFinding::aboutWidget(m_windowName, TabStops::owner(stop), AuditFinding::keyboardCheck, rule, message);
 }

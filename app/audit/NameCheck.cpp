@@ -111,13 +111,5 @@ QList<AuditFinding> NameCheck::run(const QString& windowName, QWidget* window)
 
 AuditFinding NameCheck::finding(const QString& windowName, QWidget* owner, const QString& rule, const QString& message)
 {
-    AuditFinding result;
-    result.window = windowName;
-    result.objectName = AuditFinding::nameOf(owner);
-    result.check = AuditFinding::namesCheck;
-    result.rule = rule;
-    result.message = message;
-    result.measured.insert(QStringLiteral("class"), QString::fromLatin1(owner->metaObject()->className()));
-    result.crop = owner->grab().toImage();
-    return result;
+    return AuditFinding::aboutWidget(windowName, owner, AuditFinding::namesCheck, rule, message);
 }
