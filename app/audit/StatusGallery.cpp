@@ -33,7 +33,7 @@ constexpr StatusSwatch::Parts fieldParts = StatusSwatch::AllParts;
 // Widgets that draw the look as a frame with marks, over a fill of their own.
 constexpr StatusSwatch::Parts paintedParts = StatusSwatch::Frame | StatusSwatch::Sigma | StatusSwatch::Compare;
 
-const struct FamilySpec
+const struct FamilyPlace
 {
     const char* name;
     const char* page;
@@ -42,7 +42,7 @@ const struct FamilySpec
     Where where;
     StatusSwatch::Parts shown;
     bool hasText;
-} familySpecs[] = {
+} familyPlaces[] = {
     {"line edit", "tabInOut", "vnLineEdit", Where::Widget, fieldParts, true},
     {"clear line edit", "tabInOut", "m_clearLineEdit", Where::Widget, fieldParts, true},
     {"value edit", "tabInOut", "vnValueEdit_29", Where::Widget, fieldParts, true},
@@ -133,13 +133,13 @@ struct StatusGallery::Subject
 
     bool isValid() const { return widget && canvas && area.isValid(); }
 
-    static Subject locate(QWidget* page, const FamilySpec& spec)
+    static Subject locate(QWidget* page, const FamilyPlace& place)
     {
         Subject subject;
-        subject.widget = findWidget(page, QString::fromLatin1(spec.widget));
+        subject.widget = findWidget(page, QString::fromLatin1(place.widget));
         if (!subject.widget)
             return subject;
-        switch (spec.where) {
+        switch (place.where) {
         case Where::Widget:
             subject.canvas = subject.widget->parentWidget();
             subject.area = subject.widget->geometry();
@@ -148,7 +148,7 @@ struct StatusGallery::Subject
         case Where::LastTab:
             if (auto* bar = qobject_cast<VNAnimatedTabBar*>(subject.widget)) {
                 subject.canvas = bar;
-                subject.area = bar->tabRect(spec.where == Where::FirstTab ? 0 : bar->count() - 1);
+                subject.area = bar->tabRect(place.where == Where::FirstTab ? 0 : bar->count() - 1);
                 // A tab stands against the bar, not against its neighbour tabs.
                 subject.around = bar->rect();
             }
@@ -216,13 +216,13 @@ StatusMatrix StatusGallery::measure()
         return matrix;
     m_words = wordButtons();
     QWidget* shownPage = m_tabs->currentWidget();
-    for (const FamilySpec& spec : familySpecs)
-        matrix.addFamily({QString::fromLatin1(spec.name), QString()});
+    for (const FamilyPlace& place : familyPlaces)
+        matrix.addFamily({QString::fromLatin1(place.name), QString()});
     QStringList pages;
-    for (const FamilySpec& spec : familySpecs) {
-        if (spec.where != Where::ItemCell && spec.where != Where::HeaderSection &&
-            !pages.contains(QLatin1String(spec.page)))
-            pages << QString::fromLatin1(spec.page);
+    for (const FamilyPlace& place : familyPlaces) {
+        if (place.where != Where::ItemCell && place.where != Where::HeaderSection &&
+            !pages.contains(QLatin1String(place.page)))
+            pages << QString::fromLatin1(place.page);
     }
     for (const QString& page : qAsConst(pages))
         measurePage(matrix, page);
@@ -259,10 +259,10 @@ void StatusGallery::measurePage(StatusMatrix& matrix, const QString& pageName)
     m_tabs->setCurrentWidget(page);
     QApplication::processEvents();
     QList<QPair<int, Subject>> subjects;
-    for (int family = 0; family < int(std::size(familySpecs)); ++family) {
-        if (pageName != QLatin1String(familySpecs[family].page))
+    for (int family = 0; family < int(std::size(familyPlaces)); ++family) {
+        if (pageName != QLatin1String(familyPlaces[family].page))
             continue;
-        const Subject subject = Subject::locate(page, familySpecs[family]);
+        const Subject subject = Subject::locate(page, familyPlaces[family]);
         if (subject.isValid())
             subjects << qMakePair(family, subject);
     }
@@ -295,10 +295,10 @@ void StatusGallery::measureModelPage(StatusMatrix& matrix)
     const QVariant cellStatus = cell.data(VNItemDataRoles::StatusRole);
     const QVariant headerStatus = model->headerData(statusColumn, Qt::Horizontal, VNItemDataRoles::StatusRole);
     QList<QPair<int, Subject>> subjects;
-    for (int family = 0; family < int(std::size(familySpecs)); ++family) {
-        const FamilySpec& spec = familySpecs[family];
-        if (spec.where == Where::ItemCell || spec.where == Where::HeaderSection)
-            subjects << qMakePair(family, Subject::locate(page, spec));
+    for (int family = 0; family < int(std::size(familyPlaces)); ++family) {
+        const FamilyPlace& place = familyPlaces[family];
+        if (place.where == Where::ItemCell || place.where == Where::HeaderSection)
+            subjects << qMakePair(family, Subject::locate(page, place));
     }
     for (bool compare : {false, true}) {
         for (int word = 0; word < m_flags.size(); ++word) {
@@ -319,18 +319,18 @@ void StatusGallery::measureModelPage(StatusMatrix& matrix)
 void StatusGallery::record(StatusMatrix& matrix, int family, int word, bool compare, const Subject& subject,
                            VNWidgetStatus::StatusFlags flags)
 {
-    const FamilySpec& spec = familySpecs[family];
+    const FamilyPlace& place = familyPlaces[family];
     const QImage picture = subject.grab();
     if (word == 0 && !compare)
         m_plain.insert(family, picture);
     // A first tab and a header section have room for one mark: the palette's mark of the word's
     // dominant status.
-    if (spec.where == Where::FirstTab || spec.where == Where::HeaderSection)
+    if (place.where == Where::FirstTab || place.where == Where::HeaderSection)
         flags = VNWidgetStatus::getDominantStatusFromFlag(flags);
     const SwatchReader reader(m_plain.value(family), picture, subject.areaInGrab());
     // Disabled widgets are exempt from the text rule, as accessibility guidelines exempt them.
-    const bool hasText = spec.hasText && subject.widget->isEnabled();
-    matrix.setCell(family, word, compare, reader.read(ExpectedStatusLook::of(flags), spec.shown, hasText), picture);
+    const bool hasText = place.hasText && subject.widget->isEnabled();
+    matrix.setCell(family, word, compare, reader.read(ExpectedStatusLook::of(flags), place.shown, hasText), picture);
     matrix.setFamilyObjectName(family, AuditFinding::nameOf(subject.widget));
 }
 
