@@ -1,3 +1,4 @@
+#include "../TestSupport.h"
 #include "TestVNMessageBox.h"
 
 #include <VNMessageBox.h>
@@ -8,30 +9,13 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 #include <QToolButton>
 
-#include <functional>
 #include <iterator>
 
 using Varnis::VNMessageBox;
 
 namespace {
-// Runs the action on the next message box once its modal loop has started.
-void onNextBox(const std::function<void(VNMessageBox*)>& action)
-{
-    auto* timer = new QTimer;
-    timer->setInterval(5);
-    QObject::connect(timer, &QTimer::timeout, [timer, action] {
-        if (auto* box = qobject_cast<VNMessageBox*>(QApplication::activeModalWidget())) {
-            timer->stop();
-            timer->deleteLater();
-            action(box);
-        }
-    });
-    timer->start();
-}
-
 struct SeenBox
 {
     QString title;
@@ -77,7 +61,7 @@ void MessageBoxTest::cleanup()
 void MessageBoxTest::staticFunctionReturnsPressedButton()
 {
     SeenBox seen;
-    onNextBox([&seen](VNMessageBox* box) {
+    onNextModal<VNMessageBox>([&seen](VNMessageBox* box) {
         seen = look(box);
         box->button(QMessageBox::No)->click();
     });
@@ -161,7 +145,7 @@ void MessageBoxTest::testDialogButtons()
     dialog.show();
     SeenBox seen;
     bool escapeClosed = false;
-    onNextBox([&](VNMessageBox* box) {
+    onNextModal<VNMessageBox>([&](VNMessageBox* box) {
         seen = look(box);
         QCOMPARE(box->parentWidget(), &dialog);
         QTest::keyClick(box, Qt::Key_Escape); // the only button is Ok, so Escape acts as Ok
