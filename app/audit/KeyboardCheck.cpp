@@ -130,8 +130,13 @@ void KeyboardCheck::walk(QWidget* start)
             next->setFocus(Qt::TabFocusReason);
         }
         // Tab may come back into the start's radio group at another of its buttons.
-        if (next == start || inSameExclusiveGroup(next, start))
+        if (next == start || inSameExclusiveGroup(next, start)) {
+            // Styles show some focus cues only once the keyboard has moved the focus, so the start
+            // is seen as a keyboard user sees it when Tab comes back to it.
+            if (next == start)
+                m_focused.insert(start, grabOwner(start));
             return;
+        }
         if (m_visited.contains(next) || !m_stops.contains(next))
             break;
         m_visited << next;

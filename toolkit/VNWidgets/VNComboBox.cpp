@@ -1,6 +1,7 @@
 #include "VNComboBox.h"
 
 #include "VNComboBoxPopupDelegate_p.h"
+#include "VNFocusMark_p.h"
 #include "VNStatusPalette.h"
 
 #include <QAbstractItemView>
@@ -149,4 +150,18 @@ void VNComboBox::paintEvent(QPaintEvent*)
     else if (m_style == IconOnly && !option.currentIcon.isNull() && !isEditable())
         option.currentText.clear();
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    if (showsFocusInsideFrame())
+        VNFocusMark::paint(painter,
+                           style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this));
+}
+
+// The style sheet turns a focused box's frame blue; a status frame keeps its colour and a box
+// without a frame has none to turn, so these show the focus as buttons do, inside.
+bool VNComboBox::showsFocusInsideFrame() const
+{
+    if (!hasFocus() || isEditable())
+        return false;
+    return !hasFrame() || VNWidgetStatus::lookName(getWidgetStatus()) != QLatin1String("undef") ||
+           VNWidgetStatus::sigmaLookName(getWidgetStatus()) != QLatin1String("none") ||
+           getWidgetStatus().testFlag(VNWidgetStatus::compareDifferent);
 }

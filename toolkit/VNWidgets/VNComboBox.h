@@ -48,6 +48,7 @@ protected:
 
 private:
     void takeStatusOfCurrent();
+    bool showsFocusInsideFrame() const;
 
     ComboStyle m_style = IconAndText;
     bool m_observing = false;

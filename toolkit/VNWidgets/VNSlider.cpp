@@ -1,5 +1,6 @@
 #include "VNSlider.h"
 
+#include "VNFocusMark_p.h"
 #include "VNStatusPainter_p.h"
 
 #include <QMouseEvent>
@@ -350,6 +351,10 @@ void VNSlider::paintEvent(QPaintEvent*)
     // whole slider like the status look of a field.
     painter.resetTransform();
     VNStatusPainter::paint(painter, rect(), VNWidgetStatus::statusFromProperty(this));
+    // A span or dv slider's handles are bars with no border to thicken, so the focus shows as a
+    // dotted line inside the status frame instead.
+    if (hasFocus() && (m_span || m_dvSlider))
+        VNFocusMark::paint(painter, rect().adjusted(2, 2, -2, -2));
 }
 
 void VNSlider::paintRelevantRange(QPainter& painter) const

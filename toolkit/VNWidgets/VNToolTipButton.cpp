@@ -1,5 +1,7 @@
 #include "VNToolTipButton.h"
 
+#include "VNFocusMark_p.h"
+
 #include <QPainter>
 #include <QToolTip>
 
@@ -81,7 +83,15 @@ void VNToolTipButton::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     if (!m_customImage.isNull())
-        return paintCustomImage(painter);
+        paintCustomImage(painter);
+    else
+        paintDisc(painter);
+    if (hasFocus())
+        VNFocusMark::paint(painter, rect());
+}
+
+void VNToolTipButton::paintDisc(QPainter& painter)
+{
     const int extent = qMin(width(), height()) - 2;
     const QRectF circle((width() - extent) / 2.0, (height() - extent) / 2.0, extent, extent);
     painter.setPen(Qt::NoPen);

@@ -36,6 +36,7 @@ protected:
 private:
     void showToolTipNow();
     void paintCustomImage(QPainter& painter);
+    void paintDisc(QPainter& painter);
     QColor discColor() const;
 
     bool m_info = false;
