@@ -56,6 +56,7 @@ private slots:
     void zoneColours_data();
     void zoneColours();
     void bestMarkAboveGroove();
+    void rangeMiddleInWidgetMiddle();
     void draggingAdmissibleHandle_data();
     void draggingAdmissibleHandle();
     void valueDragRespectsTrackingAndSublimit();
@@ -99,6 +100,19 @@ void VNSliderTest::bestMarkAboveGroove()
     const QImage moved = slider.grab().toImage();
     QCOMPARE(pixel(moved, slider.pixelPosition(20), above), best);
     QVERIFY(pixel(moved, slider.pixelPosition(55), above) != best);
+}
+
+// A range that does not start at zero: its middle value still sits in the middle of the slider.
+void VNSliderTest::rangeMiddleInWidgetMiddle()
+{
+    VNSlider slider(Qt::Horizontal);
+    slider.setRange(-50, 50);
+    slider.resize(400, 40);
+    slider.mark(-2, 2, VNSlider::greenBrush());
+    slider.setValue(40);
+    const QImage image = slider.grab().toImage();
+    QCOMPARE(pixel(image, 200, grooveMiddle(slider)), green);
+    QCOMPARE(pixel(image, 150, grooveMiddle(slider)), groove);
 }
 
 void VNSliderTest::draggingAdmissibleHandle_data()
