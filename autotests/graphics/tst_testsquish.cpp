@@ -22,6 +22,7 @@
 #include <QPointer>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolTip>
 
 #include <memory>
 
@@ -119,6 +120,8 @@ private slots:
     void selectDefaultOnlyForAdvancedMenu();
     void embeddedDialogsDeletedWithGallery();
     void messageBoxTextStaysEnglish();
+    void toolTipShowsSketch_data();
+    void toolTipShowsSketch();
     void wordsLookDistinct_data();
     void wordsLookDistinct();
 };
@@ -302,6 +305,36 @@ void TestSquishTest::messageBoxTextStaysEnglish()
     clickButton(&dialog, QStringLiteral("m_messageBoxBtn"));
     QCOMPARE(text, QStringLiteral("This is a default message box"));
     QCOMPARE(title, TranslationFileTool().mockSwedish(QStringLiteral("Warning")));
+}
+
+void TestSquishTest::toolTipShowsSketch_data()
+{
+    QTest::addColumn<bool>("hover");
+    QTest::newRow("hovered") << true;
+    QTest::newRow("clicked") << false;
+}
+
+// The shoulder angle's tool tip shows its sketch whether the mouse rests on the button or clicks it.
+void TestSquishTest::toolTipShowsSketch()
+{
+    QFETCH(bool, hover);
+    TestSquish dialog(nullptr);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto* button =
+        child<QAbstractButton>(showPage(dialog, QStringLiteral("tabMisc")), QStringLiteral("vnToolTipButton"));
+    if (hover)
+        QTest::mouseMove(button);
+    else
+        QTest::mouseClick(button, Qt::LeftButton);
+    QTRY_VERIFY(QToolTip::isVisible());
+    const QString text = QToolTip::text();
+    const QString prefix = QStringLiteral("Shoulder Angle<br><img src=\"data:image/png;base64,");
+    QVERIFY2(text.startsWith(prefix), qPrintable(text.left(80)));
+    const QImage sketch =
+        QImage::fromData(QByteArray::fromBase64(text.mid(prefix.size()).section('"', 0, 0).toLatin1()));
+    QCOMPARE(sketch.height(), 150);
+    QToolTip::hideText();
 }
 
 void TestSquishTest::wordsLookDistinct_data()

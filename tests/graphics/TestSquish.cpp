@@ -5,6 +5,7 @@
 
 #include <SVGImageConfiguration.h>
 #include <SetWidgetsReadOnly.h>
+#include <SvgIcons.h>
 #include <UnitConverter.h>
 #include <VNActionsBar.h>
 #include <VNAdvancedListMenu.h>
@@ -23,13 +24,70 @@
 #include <VNTaskBar.h>
 #include <VNWidgetInterface.h>
 
+#include <QApplication>
 #include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QStandardItemModel>
 #include <QTextCharFormat>
 #include <QVBoxLayout>
 
+#include <functional>
+
 namespace {
+// Drops the news that a widget's style changed while the widget keeps the application's style. Qt
+// sends it to every widget below a widget that gets a parent, so building the gallery (each tab page
+// is made first and then added; each embedded test dialog is moved into its tab) sends it to every
+// widget several times. Nothing changes for them, yet item views lay out all their rows again and
+// command link buttons load their icon again, for pages that nobody sees yet.
+class SameStyleFilter : public QObject
+{
+public:
+    SameStyleFilter() { qApp->installEventFilter(this); }
+    ~SameStyleFilter() override { qApp->removeEventFilter(this); }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::StyleChange || !watched->isWidgetType())
+            return false;
+        return static_cast<QWidget*>(watched)->style() == QApplication::style();
+    }
+};
+
+// Gives a button the tool tip with a picture only when the tool tip is first wanted (hovered, or the
+// button pressed, which shows it at once); until then the button carries the caption alone. Drawn and
+// encoded as PNG for the tool tip's HTML, the picture costs more than a whole tab of the gallery.
+class SketchToolTip : public QObject
+{
+public:
+    SketchToolTip(QAbstractButton* button, const QString& caption, std::function<QString()> fullText)
+        : QObject(button)
+        , m_button(button)
+        , m_fullText(std::move(fullText))
+    {
+        button->setToolTip(caption);
+        button->installEventFilter(this);
+        m_pressed = connect(button, &QAbstractButton::pressed, this, &SketchToolTip::complete);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_button && event->type() == QEvent::ToolTip)
+            complete();
+        return false;
+    }
+
+private:
+    void complete()
+    {
+        m_button->removeEventFilter(this);
+        disconnect(m_pressed);
+        m_button->setToolTip(m_fullText());
+    }
+
+    QAbstractButton* m_button;
+    std::function<QString()> m_fullText;
+    QMetaObject::Connection m_pressed;
+};
+
 // The status words of the status buttons (bits of VNWidgetStatus).
 constexpr int noStatus = 0x0;
 constexpr int needInput = 0x20;
@@ -92,6 +150,7 @@ TestSquish::TestSquish(QWidget* parent)
     , m_masterDetailTree(nullptr)
     , m_compareDifferent(false)
 {
+    SameStyleFilter filter;
     ui.setupUi(this);
     setUpButtonStates();
     setUpMenus();
@@ -146,7 +205,7 @@ void TestSquish::setUpButtonMenus()
 {
     auto* iconMenu = new VNMenu(ui.m_vnButtonMenuIcons);
     iconMenu->addAction(tr("Action 1"));
-    iconMenu->addAction(QIcon(addIcon), tr("Action 2"));
+    iconMenu->addAction(createSvgIcon(addIcon), tr("Action 2"));
     ui.m_vnButtonMenuIcons->setMenu(iconMenu);
 
     auto* plainMenu = new VNMenu(ui.m_vnButtonMenu);
@@ -185,10 +244,10 @@ void TestSquish::setUpAdvancedMenus()
 {
     auto* listMenu = new VNAdvancedListMenu(ui.m_advancedListBtn);
     listMenu->setDefaultIconSize(QSize(48, 48));
-    listMenu->addControl(new QAction(QIcon(QStringLiteral(":/Icons/Modify/add_trim_24.svg")), tr("Trim"), listMenu),
-                         300);
-    listMenu->addControl(new QAction(QIcon(QStringLiteral(":/Icons/Modify/add_radius_24.svg")), tr("Radius"), listMenu),
-                         300);
+    listMenu->addControl(
+        new QAction(createSvgIcon(QStringLiteral(":/Icons/Modify/add_trim_24.svg")), tr("Trim"), listMenu), 300);
+    listMenu->addControl(
+        new QAction(createSvgIcon(QStringLiteral(":/Icons/Modify/add_radius_24.svg")), tr("Radius"), listMenu), 300);
     ui.m_advancedListBtn->setMenu(listMenu);
 
     auto* modifyMenu = new VNAdvancedMenu(ui.m_advancedBtnModify);
@@ -202,7 +261,7 @@ void TestSquish::setUpAdvancedMenus()
                          {QT_TR_NOOP("Morph"), ":/Icons/Modify/add_morph_24.svg"},
                          {QT_TR_NOOP("Preform"), ":/Icons/Modify/add_preform_24.svg"}};
     for (const auto& entry : modifyActions)
-        modifyMenu->addControlToGroup(new QAction(QIcon(QLatin1String(entry.icon)), tr(entry.text), modifyMenu),
+        modifyMenu->addControlToGroup(new QAction(createSvgIcon(QLatin1String(entry.icon)), tr(entry.text), modifyMenu),
                                       modify);
     ui.m_advancedBtnModify->setMenu(modifyMenu);
 
@@ -220,7 +279,7 @@ void TestSquish::setUpAdvancedMenus()
                           {QT_TR_NOOP("Mirror"), ":/Icons/Blank/nest_mirror.svg"},
                           {QT_TR_NOOP("Unequal"), ":/Icons/Blank/nest_unequal.svg"}};
     for (const auto& entry : nestingActions) {
-        auto* action = new QAction(QIcon(QLatin1String(entry.icon)), tr(entry.text), selectMenu);
+        auto* action = new QAction(createSvgIcon(QLatin1String(entry.icon)), tr(entry.text), selectMenu);
         action->setCheckable(true);
         selectMenu->addControlToGroup(action, nesting);
     }
@@ -233,9 +292,9 @@ void TestSquish::setUpComboBoxes()
     for (QComboBox* box : {static_cast<QComboBox*>(ui.m_vnComboBox), ui.comboBox_7, ui.comboBox_8, ui.comboBox_20,
                            ui.comboBox_21, static_cast<QComboBox*>(ui.m_selectStep_cb)})
         box->addItems(items);
-    ui.m_vnComboBoxIcons->addItem(QIcon(addIcon), tr("Add"));
-    ui.m_vnComboBoxIcons->addItem(QIcon(QStringLiteral(":/Icons/Shared/edit_16.svg")), tr("Edit"));
-    ui.m_vnComboBoxIcons->addItem(QIcon(QStringLiteral(":/Icons/Shared/delete_16.svg")), tr("Delete"));
+    ui.m_vnComboBoxIcons->addItem(createSvgIcon(addIcon), tr("Add"));
+    ui.m_vnComboBoxIcons->addItem(createSvgIcon(QStringLiteral(":/Icons/Shared/edit_16.svg")), tr("Edit"));
+    ui.m_vnComboBoxIcons->addItem(createSvgIcon(QStringLiteral(":/Icons/Shared/delete_16.svg")), tr("Delete"));
 
     for (VNComboBox* box : {ui.m_observeItemWidgetStatusCB, ui.m_observeItemWidgetStatusCB_2}) {
         box->addItems({tr("Undefined"), tr("Need Input"), tr("User Edited")});
@@ -281,7 +340,7 @@ void TestSquish::setUpTaskBar()
                   {":/Icons/Stages/simul.svg", QT_TR_NOOP("Simulation")},
                   {":/Icons/Stages/eval.svg", QT_TR_NOOP("Evaluation")}};
     for (const auto& stage : stages)
-        taskBar->addItem(QIcon(QLatin1String(stage.icon)), tr(stage.text));
+        taskBar->addItem(createSvgIcon(QLatin1String(stage.icon)), tr(stage.text));
     taskBar->setCurrentIndex(2);
     ui.taskBarLayout->addWidget(taskBar);
 }
@@ -314,13 +373,14 @@ void TestSquish::setUpNavigationBars()
     ui.elementNavigationBar->addButton(tr("Button 2"), tr("Tooltip"));
     ui.elementNavigationBar->addButton(tr("Button 3"));
     const int locked = ui.elementNavigationBar->addButton(
-        tr("Locked"), QString(), QIcon(QStringLiteral(":/Icons/DieFace/compensation_dead_end_16.svg")));
+        tr("Locked"), QString(), createSvgIcon(QStringLiteral(":/Icons/DieFace/compensation_dead_end_16.svg")));
     ui.elementNavigationBar->setButtonLocked(locked, true);
     ui.elementNavigationBar->setCurrentIndex(0);
 
     ui.elementNavigationBar_2->addButton(tr("Button 1"), tr("NavToolTip 1"));
     const int issue = ui.elementNavigationBar_2->addButton(tr("Button 2"), tr("Tooltip"));
-    ui.elementNavigationBar_2->setButtonIcon(issue, QIcon(QStringLiteral(":/Icons/Issues/issuezone_error_16.svg")));
+    ui.elementNavigationBar_2->setButtonIcon(issue,
+                                             createSvgIcon(QStringLiteral(":/Icons/Issues/issuezone_error_16.svg")));
     ui.elementNavigationBar_2->addButton(tr("Button 3"));
     ui.elementNavigationBar_2->addButton(tr("Button Remove"));
     ui.elementNavigationBar_2->setCurrentIndex(1);
@@ -443,10 +503,12 @@ void TestSquish::setUpToolTipButtons()
     for (VNToolTipButton* button : {ui.vnToolTipButton_header, ui.vnToolTipButton_headerInfo})
         button->setUseAsHeader(true);
 
-    const QIcon sketch(QStringLiteral(":/Icons/Blank/Sketches/embed_chevron_help.svg"));
-    const QPixmap sketchPixmap = sketch.pixmap(QSize(600, 150));
-    ui.vnToolTipButton->setToolTip(tr("Shoulder Angle") + QStringLiteral("<br>") +
-                                   SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(sketchPixmap));
+    const QString caption = tr("Shoulder Angle");
+    new SketchToolTip(ui.vnToolTipButton, caption, [caption] {
+        const QIcon sketch(QStringLiteral(":/Icons/Blank/Sketches/embed_chevron_help.svg"));
+        return caption + QStringLiteral("<br>") +
+               SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(sketch.pixmap(QSize(600, 150)));
+    });
 
     const QIcon variants(QStringLiteral(":/Icons/Blank/variants_embed_nest.svg"));
     for (VNToolTipButton* button : {ui.vnToolTipButton, ui.vnToolTipButton_hover})
@@ -475,15 +537,15 @@ void TestSquish::setUpCustomMenuButtons()
 
     ui.m_actionBar->setActionsPerRow(1);
     ui.m_actionBar->addAction(
-        new QAction(QIcon(QStringLiteral(":/Icons/Shared/add_curve.svg")), tr("Input..."), ui.m_actionBar));
+        new QAction(createSvgIcon(QStringLiteral(":/Icons/Shared/add_curve.svg")), tr("Input..."), ui.m_actionBar));
 }
 
 void TestSquish::setUpResultSwitchers()
 {
-    const QIcon icons[] = {QIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/GEOM_CURVCASE.svg")),
-                           QIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/SB_DELTA_ANGLE.svg")),
-                           QIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/TOOL_DRAWING_ANGLE.svg")),
-                           QIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/ZEBRA_LINES.svg"))};
+    const QIcon icons[] = {createSvgIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/GEOM_CURVCASE.svg")),
+                           createSvgIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/SB_DELTA_ANGLE.svg")),
+                           createSvgIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/TOOL_DRAWING_ANGLE.svg")),
+                           createSvgIcon(QStringLiteral(":/Icons/Ribbon/ResultVariable/ZEBRA_LINES.svg"))};
     for (int i = 0; i < 3; ++i) {
         ui.m_resultSwitcherSingle->insertButton(icons[i], tr("Result %1").arg(i + 1), i, 0);
         ui.m_resultSwitcher->insertButton(icons[i], tr("Result %1").arg(i + 1), i, 0);
@@ -510,8 +572,8 @@ void TestSquish::setUpToolBars()
 void TestSquish::embedTests()
 {
     m_treeDelegates = new TestTreeDelegates(nullptr);
-    ui.verticalLayout_14->addWidget(m_treeDelegates);
     m_masterDetailTree = new TestMasterDetailTree(nullptr);
+    ui.verticalLayout_14->addWidget(m_treeDelegates);
     ui.verticalLayout_27->addWidget(m_masterDetailTree);
 }
 

@@ -2,6 +2,7 @@
 
 #include <ColorBoxDelegate.h>
 #include <IconToggleDelegate.h>
+#include <SvgIcons.h>
 #include <VNComboBoxDelegate.h>
 #include <VNCustomHeaderView.h>
 #include <VNDoubleSpinBoxData.h>
@@ -36,7 +37,7 @@ QList<QIcon> comboIcons()
 {
     QList<QIcon> icons;
     for (const char* name : {"add_16", "copy_16", "edit_16", "search_16", "sync_all_16", "delete_16"})
-        icons << QIcon(iconPath + QLatin1String(name) + QLatin1String(".svg"));
+        icons << createSvgIcon(iconPath + QLatin1String(name) + QLatin1String(".svg"));
     return icons;
 }
 } // namespace
@@ -157,7 +158,7 @@ void TestTreeDelegates::setUpHeader()
     headerItem->setToolTip(0, tr("Different Tooltip"));
     headerItem->setToolTip(4, tr("Different Tooltip"));
     headerItem->setTextAlignment(3, Qt::AlignHCenter | Qt::AlignVCenter);
-    headerItem->setIcon(2, QIcon(iconPath + QStringLiteral("edit_16.svg")));
+    headerItem->setIcon(2, createSvgIcon(iconPath + QStringLiteral("edit_16.svg")));
 }
 
 QTreeWidgetItem* TestTreeDelegates::addRow(const QString& caption, const QStringList& texts,
@@ -302,8 +303,9 @@ void TestTreeDelegates::fillButtonRows()
     combo->setItems(items, comboIcons());
     addRow(tr("VNComboBoxDelegate"), items.mid(0, 4), combo);
     auto* itemModel = new QStandardItemModel(this);
+    const QList<QIcon> icons = comboIcons();
     for (int row = 0; row < items.size(); ++row)
-        itemModel->appendRow(new QStandardItem(comboIcons().value(row), items.at(row)));
+        itemModel->appendRow(new QStandardItem(icons.value(row), items.at(row)));
     auto* modelCombo = new VNComboBoxDelegate(ui.treeWidget);
     modelCombo->setModel(itemModel);
     addRow(tr("VNComboBoxDelegate from Model"), {items.at(5), items.at(4), items.at(3), items.at(2)}, modelCombo);

@@ -3,11 +3,17 @@
 #include <QFileInfo>
 #include <QHash>
 
+// Qt's SVG icon engine reads and parses the whole drawing just to check it when an icon is made
+// from a file, so each drawing is made into an icon once and that icon shared by every later caller.
 QIcon createSvgIcon(const QString& resourcePath)
 {
+    static QHash<QString, QIcon> made;
+    const auto found = made.constFind(resourcePath);
+    if (found != made.constEnd())
+        return *found;
     if (!QFileInfo::exists(resourcePath))
         return QIcon();
-    return QIcon(resourcePath);
+    return *made.insert(resourcePath, QIcon(resourcePath));
 }
 
 // The drawings are handed to the SVG icon engine, which renders each size only when it is first

@@ -1,5 +1,6 @@
 #include "VNAnimatedTabBar.h"
 #include "VNStatusPainter_p.h"
+#include "VNSvgIcon_p.h"
 
 #include <QMenu>
 #include <QMouseEvent>
@@ -53,7 +54,7 @@ int VNAnimatedTabBar::insertTab(int index, const QString& text, const QString& i
     Tab tab;
     tab.text = text;
     if (!iconPath.isEmpty())
-        tab.icon = QIcon(iconPath);
+        tab.icon = VNSvgIcon::fromFile(iconPath);
     m_tabs.insert(index, tab);
     if (m_marked >= index)
         ++m_marked;

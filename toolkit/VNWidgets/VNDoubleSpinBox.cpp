@@ -578,6 +578,10 @@ void VNDoubleSpinBox::fitFont()
             edit->setFont(QFont()); // back to the field's own font
         return;
     }
+    // Before it is shown the field has no size of its own yet, and every smaller size tried would load
+    // a font; showing sends the resize event that fits the text to the real width.
+    if (testAttribute(Qt::WA_PendingResizeEvent))
+        return;
     QFont fitted = font();
     const QMargins margins = edit->textMargins();
     const int available = edit->contentsRect().width() - margins.left() - margins.right() - 4;

@@ -1,5 +1,6 @@
 #include "VNInfoArea.h"
 
+#include "VNSvgIcon_p.h"
 #include "VNWidgetStatus.h"
 
 #include <QApplication>
@@ -45,7 +46,7 @@ VNInfoArea::VNInfoArea(QWidget* parent)
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_infoButton->setObjectName(QStringLiteral("infoButton"));
     m_infoButton->setAccessibleName(tr("More information"));
-    m_infoButton->setIcon(QIcon(QStringLiteral(":/Style/VnWidgets/VNInfoArea/more.svg")));
+    m_infoButton->setIcon(VNSvgIcon::fromFile(QStringLiteral(":/Style/VnWidgets/VNInfoArea/more.svg")));
     m_infoButton->setIconSize(QSize(16, 16));
     m_infoButton->setAutoRaise(true);
     m_infoButton->setCursor(Qt::PointingHandCursor);

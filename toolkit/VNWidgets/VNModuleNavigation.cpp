@@ -1,5 +1,7 @@
 #include "VNModuleNavigation.h"
 
+#include "VNSvgIcon_p.h"
+
 #include <QButtonGroup>
 #include <QGridLayout>
 #include <QToolButton>
@@ -92,7 +94,7 @@ void VNModuleNavigation::setModuleLocked(int index, bool locked)
         return;
     module->setProperty("locked", locked);
     module->setEnabled(!locked);
-    module->setIcon(locked ? QIcon(QLatin1String(lockIcon)) : QIcon());
+    module->setIcon(locked ? VNSvgIcon::fromFile(QLatin1String(lockIcon)) : QIcon());
 }
 
 bool VNModuleNavigation::isModuleLocked(int index) const

@@ -2,6 +2,7 @@
 
 #include "VNDisclosureResizeHandle_p.h"
 #include "VNProgressiveDisclosureBtn.h"
+#include "VNSvgIcon_p.h"
 #include "VNWidgetStatus.h"
 
 #include <QCheckBox>
@@ -109,7 +110,7 @@ void VNProgressiveDisclosure::buildHead()
     m_infoButton = new QToolButton(this);
     m_infoButton->setObjectName(QStringLiteral("infoButton"));
     m_infoButton->setAccessibleName(tr("Information"));
-    m_infoButton->setIcon(QIcon(QStringLiteral(":/Style/VnWidgets/VNInfoArea/info.svg")));
+    m_infoButton->setIcon(VNSvgIcon::fromFile(QStringLiteral(":/Style/VnWidgets/VNInfoArea/info.svg")));
     m_infoButton->setAutoRaise(true);
     connect(m_infoButton, &QToolButton::clicked, this, &VNProgressiveDisclosure::showInfo);
 
