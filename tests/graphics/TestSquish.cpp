@@ -31,8 +31,6 @@
 #include <QTextCharFormat>
 #include <QVBoxLayout>
 
-#include <functional>
-
 namespace {
 // Drops the news that a widget's style changed while the widget keeps the application's style. Qt
 // sends it to every widget below a widget that gets a parent, so building the gallery (each tab page
@@ -50,42 +48,6 @@ public:
             return false;
         return static_cast<QWidget*>(watched)->style() == QApplication::style();
     }
-};
-
-// Gives a button the tool tip with a picture only when the tool tip is first wanted (hovered, or the
-// button pressed, which shows it at once); until then the button carries the caption alone. Drawn and
-// encoded as PNG for the tool tip's HTML, the picture costs more than a whole tab of the gallery.
-class SketchToolTip : public QObject
-{
-public:
-    SketchToolTip(QAbstractButton* button, const QString& caption, std::function<QString()> fullText)
-        : QObject(button)
-        , m_button(button)
-        , m_fullText(std::move(fullText))
-    {
-        button->setToolTip(caption);
-        button->installEventFilter(this);
-        m_pressed = connect(button, &QAbstractButton::pressed, this, &SketchToolTip::complete);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (watched == m_button && event->type() == QEvent::ToolTip)
-            complete();
-        return false;
-    }
-
-private:
-    void complete()
-    {
-        m_button->removeEventFilter(this);
-        disconnect(m_pressed);
-        m_button->setToolTip(m_fullText());
-    }
-
-    QAbstractButton* m_button;
-    std::function<QString()> m_fullText;
-    QMetaObject::Connection m_pressed;
 };
 
 // The status words of the status buttons (bits of VNWidgetStatus).
@@ -503,12 +465,10 @@ void TestSquish::setUpToolTipButtons()
     for (VNToolTipButton* button : {ui.vnToolTipButton_header, ui.vnToolTipButton_headerInfo})
         button->setUseAsHeader(true);
 
-    const QString caption = tr("Shoulder Angle");
-    new SketchToolTip(ui.vnToolTipButton, caption, [caption] {
-        const QIcon sketch(QStringLiteral(":/Icons/Blank/Sketches/embed_chevron_help.svg"));
-        return caption + QStringLiteral("<br>") +
-               SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(sketch.pixmap(QSize(600, 150)));
-    });
+    const QIcon sketch(QStringLiteral(":/Icons/Blank/Sketches/embed_chevron_help.svg"));
+    const QPixmap sketchPixmap = sketch.pixmap(QSize(600, 150));
+    ui.vnToolTipButton->setToolTip(tr("Shoulder Angle") + QStringLiteral("<br>") +
+                                   SVGImageConfiguration::pixmapToEmbeddedHtmlImageString(sketchPixmap));
 
     const QIcon variants(QStringLiteral(":/Icons/Blank/variants_embed_nest.svg"));
     for (VNToolTipButton* button : {ui.vnToolTipButton, ui.vnToolTipButton_hover})
