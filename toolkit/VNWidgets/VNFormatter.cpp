@@ -71,7 +71,8 @@ QString exponentText(const QLocale& locale, int exponent)
     if (std::abs(exponent) < 10)
         digits.prepend(locale.zeroDigit());
     const QString sign = exponent < 0 ? locale.negativeSign() : locale.positiveSign();
-    return locale.exponential() + sign + digits;
+    // Lower case, as QLocale::toString() writes it ('e' format); Qt 6's locale data gives "E".
+    return locale.exponential().toLower() + sign + digits;
 }
 
 QString engineeringText(const QLocale& locale, double value, int precision)
@@ -267,15 +268,15 @@ double VNFormatter::numberFromText(const QString& text, bool* ok, bool* ambiguou
     bool unclear = false;
     QLocale locale;
     locale.setNumberOptions(locale.numberOptions() | QLocale::RejectGroupSeparator);
-    const QChar point = locale.decimalPoint();
-    const QChar group = locale.groupSeparator();
+    const QString point = locale.decimalPoint();
+    const QString group = locale.groupSeparator();
+    const QString dot = QStringLiteral(".");
     QString number = text.trimmed();
     double value = 0.0;
-    if (group != point && group != QLatin1Char('.') && number.contains(group)) {
+    if (group != point && group != dot && number.contains(group)) {
         unclear = true; // a group separator, or a decimal separator of another language
-    } else if (point != QLatin1Char('.') && number.contains(QLatin1Char('.'))) {
-        unclear = number.contains(point) || number.count(QLatin1Char('.')) > 1 ||
-                  (group == QLatin1Char('.') && looksGroupedByDot(number));
+    } else if (point != dot && number.contains(dot)) {
+        unclear = number.contains(point) || number.count(dot) > 1 || (group == dot && looksGroupedByDot(number));
         if (!unclear)
             value = locale.toDouble(number.replace(QLatin1Char('.'), point), &parsed);
     } else {
