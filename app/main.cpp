@@ -1,5 +1,6 @@
 #include "HostApplication.h"
 #include "OffscreenMessageFilter.h"
+#include "QtCompat.h"
 
 #include <QApplication>
 
@@ -65,13 +66,13 @@ void fixReproducibleEnvironment(int argc, char* argv[])
     qputenv("TZ", "UTC");
     // Whatever shows the contents of a hash or set shows them in the same order in every run.
     qSetGlobalQHashSeed(0);
-    QCoreApplication::setAttribute(Qt::AA_DisableHighDpiScaling);
+    QtCompat::disableHighDpiScaling();
     // --scale N draws every window for a screen of N device pixels per pixel, icons included.
     const QByteArray scale = optionValue(argc, argv, "--scale");
     const bool scaled = !scale.isEmpty() && scale != "1";
     if (scaled)
         qputenv("QT_SCALE_FACTOR", scale);
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, scaled);
+    QtCompat::useHighDpiPixmaps(scaled);
 }
 
 // The collection paints with the raster engine only; loading the X server's OpenGL integration for

@@ -6,26 +6,31 @@
 # `testwidgetcollection --mock-locale` loads. Without lupdate or lrelease the build goes on
 # without it.
 
-set(TWC_QT_BIN_HINTS /usr/lib/qt5/bin /usr/lib/x86_64-linux-gnu/qt5/bin)
-if(TARGET Qt5::qmake)
-    get_target_property(_twc_qmake Qt5::qmake IMPORTED_LOCATION)
+# The tools must come from the Qt the build uses: a plain lupdate on the PATH is often qtchooser's,
+# which runs Qt 5's.
+set(TWC_QT_BIN_HINTS /usr/lib/qt${TWC_QT_MAJOR}/bin /usr/lib/x86_64-linux-gnu/qt${TWC_QT_MAJOR}/bin)
+if(TWC_QT_MAJOR EQUAL 6 AND QT6_INSTALL_PREFIX)
+    list(PREPEND TWC_QT_BIN_HINTS "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_BINS}")
+elseif(TARGET ${TWC_QT}::qmake)
+    get_target_property(_twc_qmake ${TWC_QT}::qmake IMPORTED_LOCATION)
     get_filename_component(_twc_qt_bin "${_twc_qmake}" DIRECTORY)
     list(PREPEND TWC_QT_BIN_HINTS "${_twc_qt_bin}")
 endif()
 
-# twc_find_linguist_tool(<variable> <tool>): the command that runs the Qt 5 tool, or empty.
+# twc_find_linguist_tool(<variable> <tool>): the command that runs the tool of the Qt the build
+# uses, or empty.
 function(twc_find_linguist_tool variable tool)
-    find_program(TWC_${tool}_PROGRAM NAMES ${tool}-qt5 ${tool} HINTS ${TWC_QT_BIN_HINTS})
+    find_program(TWC_${tool}_PROGRAM NAMES ${tool}-qt${TWC_QT_MAJOR} ${tool} HINTS ${TWC_QT_BIN_HINTS})
     if(TWC_${tool}_PROGRAM)
         set(${variable} "${TWC_${tool}_PROGRAM}" PARENT_SCOPE)
         return()
     endif()
     find_program(TWC_QTCHOOSER qtchooser)
     if(TWC_QTCHOOSER)
-        execute_process(COMMAND "${TWC_QTCHOOSER}" -run-tool=${tool} -qt=5 -help
+        execute_process(COMMAND "${TWC_QTCHOOSER}" -run-tool=${tool} -qt=${TWC_QT_MAJOR} -help
             RESULT_VARIABLE result OUTPUT_QUIET ERROR_QUIET)
         if(result EQUAL 0)
-            set(${variable} "${TWC_QTCHOOSER};-run-tool=${tool};-qt=5" PARENT_SCOPE)
+            set(${variable} "${TWC_QTCHOOSER};-run-tool=${tool};-qt=${TWC_QT_MAJOR}" PARENT_SCOPE)
             return()
         endif()
     endif()
@@ -40,7 +45,12 @@ if(TWC_MOCK_TRANSLATION)
     if(TWC_LUPDATE AND TWC_LRELEASE)
         set(TWC_HAS_MOCK_TRANSLATION ON)
     else()
-        message(STATUS "lupdate or lrelease (Debian package qttools5-dev-tools) not found: "
+        if(TWC_QT_MAJOR EQUAL 6)
+            set(_twc_tools_package qt6-l10n-tools)
+        else()
+            set(_twc_tools_package qttools5-dev-tools)
+        endif()
+        message(STATUS "lupdate or lrelease (Debian package ${_twc_tools_package}) not found: "
                        "building without the mock Swedish translation; --mock-locale will say so.")
     endif()
 endif()
@@ -86,7 +96,7 @@ if(TWC_HAS_MOCK_TRANSLATION)
         COMMENT "Turning the collection's texts into mock Swedish"
         VERBATIM)
     add_custom_command(OUTPUT "${_twc_qrc_cpp}"
-        COMMAND Qt5::rcc -name mocktranslation "${_twc_qrc}" -o "${_twc_qrc_cpp}"
+        COMMAND ${TWC_QT}::rcc -name mocktranslation "${_twc_qrc}" -o "${_twc_qrc_cpp}"
         DEPENDS "${_twc_qrc}" "${_twc_qm}"
         COMMENT "Embedding the mock Swedish translation"
         VERBATIM)

@@ -1,4 +1,4 @@
-# Form headers of the collection, made by Qt's own uic integration (qt5_wrap_ui) in the build
+# Form headers of the collection, made by Qt's own uic integration (qt_wrap_ui) in the build
 # folder of the directory that calls it. Each ui_<Name>.h is the declared output of its uic command,
 # so that one build after a form is edited regenerates the header and recompiles every object that
 # includes it, in the collection and in the autotests alike (AUTOUIC regenerates headers in a step
@@ -18,7 +18,7 @@ function(twc_wrap_forms target)
             list(APPEND forms "${form}")
         endif()
     endforeach()
-    qt5_wrap_ui(headers ${forms})
+    qt_wrap_ui(headers ${forms})
     target_sources(${target} PRIVATE ${headers})
 
     # Build folders from before kept form headers in the target's autogen folder, which comes first

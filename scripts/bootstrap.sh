@@ -1,20 +1,33 @@
 #!/usr/bin/env bash
-# Makes sure that what the project needs is there: programs, Qt 5.15 modules (their CMake packages)
-# and the screenshot fonts. When everything is there it changes nothing, on any system. When
+# Makes sure that what the project needs is there: programs, the Qt modules (their CMake packages)
+# of Qt 5.15 or, with --qt6 (or TWC_QT_MAJOR=6), of Qt 6, and the screenshot fonts. When everything is there it changes nothing, on any system. When
 # something is missing it installs it with apt-get where it can (Debian, as root or with sudo);
 # otherwise it names what to install and fails. TWC_NO_BOOTSTRAP=1 skips it.
 #
-#   scripts/bootstrap.sh [build|test|designer]
+#   scripts/bootstrap.sh [--qt6] [build|test|designer]
 #
 # build: configure and build the collection and its host (scripts/build.sh, scripts/run.sh);
 # test: also everything scripts/test.sh and CI use (the default); designer: build plus Qt Designer.
 set -euo pipefail
 
+major="${TWC_QT_MAJOR:-5}"
+if [ "${1:-}" = --qt6 ]; then
+    major=6
+    shift
+fi
 purpose="${1:-test}"
 case "$purpose" in
 build | test | designer) ;;
 *)
-    echo "usage: $0 [build|test|designer]" >&2
+    echo "usage: $0 [--qt6] [build|test|designer]" >&2
+    exit 2
+    ;;
+esac
+case "$major" in
+5) minimum='5\.1[5-9]' ;;
+6) minimum='6\.([4-9]|[1-9][0-9])' ;;
+*)
+    echo "$0: TWC_QT_MAJOR must be 5 or 6" >&2
     exit 2
     ;;
 esac
@@ -22,11 +35,11 @@ if [ "${TWC_NO_BOOTSTRAP:-0}" != "0" ]; then
     exit 0
 fi
 
-# Qt's own tools and CMake packages, as this Qt 5 installation reports them.
+# Qt's own tools and CMake packages, as this Qt installation reports them.
 qmake=""
-for candidate in qmake-qt5 qmake /usr/lib/qt5/bin/qmake; do
+for candidate in "qmake-qt$major" "qmake$major" qmake "/usr/lib/qt$major/bin/qmake"; do
     if command -v "$candidate" > /dev/null &&
-        "$candidate" -query QT_VERSION 2> /dev/null | grep -q '^5\.'; then
+        "$candidate" -query QT_VERSION 2> /dev/null | grep -q "^$major\\."; then
         qmake="$candidate"
         break
     fi
@@ -38,16 +51,17 @@ if [ -n "$qmake" ]; then
     qt_libs="$("$qmake" -query QT_INSTALL_LIBS)"
 fi
 
-# Where find_package(Qt5 ...) may find a module: CMAKE_PREFIX_PATH, Qt5_DIR, qmake's library
-# folder and the usual system folders.
+# Where find_package(Qt5 ...) or find_package(Qt6 ...) may find a module: CMAKE_PREFIX_PATH,
+# Qt5_DIR or Qt6_DIR, qmake's library folder and the usual system folders.
 cmake_package_dirs() {
     local prefix
     local IFS=:
     for prefix in ${CMAKE_PREFIX_PATH:-}; do
         echo "$prefix" "$prefix/cmake" "$prefix/lib/cmake" "$prefix/lib64/cmake" "$prefix"/lib/*/cmake
     done
-    if [ -n "${Qt5_DIR:-}" ]; then
-        dirname "$Qt5_DIR"
+    local qt_dir="Qt${major}_DIR"
+    if [ -n "${!qt_dir:-}" ]; then
+        dirname "${!qt_dir}"
     fi
     if [ -n "$qt_libs" ]; then
         echo "$qt_libs/cmake"
@@ -58,10 +72,11 @@ cmake_package_dirs() {
 has_qt_module() {
     local dir
     for dir in $(cmake_package_dirs); do
-        if [ -f "$dir/Qt5$1/Qt5$1Config.cmake" ]; then
+        if [ -f "$dir/Qt$major$1/Qt$major$1Config.cmake" ]; then
             if [ "$1" = Core ]; then
-                # The project needs Qt 5.15.
-                grep -qs 'set(PACKAGE_VERSION 5\.1[5-9]' "$dir/Qt5Core/Qt5CoreConfigVersion.cmake" || continue
+                # The project needs Qt 5.15 or Qt 6.4 and later.
+                grep -Eqs "set\(PACKAGE_VERSION \"?$minimum" "$dir/Qt${major}Core/Qt${major}CoreConfigVersion"*.cmake ||
+                    continue
             fi
             return 0
         fi
@@ -73,10 +88,11 @@ has_command() {
     command -v "$1" > /dev/null
 }
 
-# A Qt tool where the build looks for it (cmake/MockTranslation.cmake): on the PATH or in Qt's folder.
+# A Qt tool where the build looks for it (cmake/MockTranslation.cmake): in Qt's folder or on the
+# PATH (a plain name there runs Qt 5's tools through qtchooser, so it does not count for Qt 6).
 has_qt_tool() {
-    has_command "$1-qt5" || has_command "$1" || { [ -n "$qt_bins" ] && [ -x "$qt_bins/$1" ]; } ||
-        [ -x "/usr/lib/qt5/bin/$1" ]
+    has_command "$1-qt$major" || { [ "$major" = 5 ] && has_command "$1"; } ||
+        { [ -n "$qt_bins" ] && [ -x "$qt_bins/$1" ]; } || [ -x "/usr/lib/qt$major/bin/$1" ]
 }
 
 has_compiler() {
@@ -118,27 +134,41 @@ check_all() {
     need required has_command cmake -- cmake "CMake 3.16 or later (cmake)"
     need required has_command ninja -- ninja-build "Ninja (ninja)"
     need required has_compiler -- build-essential "a C++17 compiler (c++, g++ or clang++)"
-    need required has_qt_module Core -- qtbase5-dev "Qt 5.15 Core (CMake package Qt5Core)"
-    need required has_qt_module Gui -- qtbase5-dev "Qt 5 Gui (CMake package Qt5Gui)"
-    need required has_qt_module Widgets -- qtbase5-dev "Qt 5 Widgets (CMake package Qt5Widgets)"
-    need required has_qt_module Xml -- qtbase5-dev "Qt 5 Xml (CMake package Qt5Xml)"
-    need required has_qt_module Svg -- libqt5svg5-dev "Qt 5 Svg (CMake package Qt5Svg)"
+    local base=qtbase5-dev svg=libqt5svg5-dev tools=qttools5-dev linguist=qttools5-dev-tools
+    local programs=qttools5-dev-tools
+    if [ "$major" = 6 ]; then
+        base=qt6-base-dev svg=qt6-svg-dev tools=qt6-tools-dev linguist=qt6-l10n-tools
+        programs=qt6-tools-dev-tools
+    fi
+    local qt="Qt $major"
+    need required has_qt_module Core -- $base "$qt Core (CMake package Qt${major}Core)"
+    need required has_qt_module Gui -- $base "$qt Gui (CMake package Qt${major}Gui)"
+    need required has_qt_module Widgets -- $base "$qt Widgets (CMake package Qt${major}Widgets)"
+    need required has_qt_module Xml -- $base "$qt Xml (CMake package Qt${major}Xml)"
+    need required has_qt_module Svg -- $svg "$qt Svg (CMake package Qt${major}Svg)"
+    if [ "$major" = 6 ]; then
+        need required has_qt_module Core5Compat -- qt6-5compat-dev "Qt 6 Core5Compat (CMake package Qt6Core5Compat)"
+    fi
     need optional has_command ccache -- ccache "ccache, for faster rebuilds"
     if [ "$purpose" = build ]; then
-        need optional has_qt_tool lupdate -- qttools5-dev-tools "lupdate, for --mock-locale"
-        need optional has_qt_tool lrelease -- qttools5-dev-tools "lrelease, for --mock-locale"
+        need optional has_qt_tool lupdate -- $linguist "lupdate, for --mock-locale"
+        need optional has_qt_tool lrelease -- $linguist "lrelease, for --mock-locale"
     else
-        need required has_qt_tool lupdate -- qttools5-dev-tools "Qt 5 lupdate"
-        need required has_qt_tool lrelease -- qttools5-dev-tools "Qt 5 lrelease"
-        need required has_qt_module Designer -- qttools5-dev "Qt 5 Designer (CMake package Qt5Designer)"
-        need required has_qt_module UiPlugin -- qttools5-dev "Qt 5 UiPlugin (CMake package Qt5UiPlugin)"
+        need required has_qt_tool lupdate -- $linguist "$qt lupdate"
+        need required has_qt_tool lrelease -- $linguist "$qt lrelease"
+        need required has_qt_module Designer -- $tools "$qt Designer (CMake package Qt${major}Designer)"
+        need required has_qt_module UiPlugin -- $tools "$qt UiPlugin (CMake package Qt${major}UiPlugin)"
+        if [ "$major" = 6 ]; then
+            # Qt 6's Designer package needs OpenGL's, which Debian ships apart.
+            need required has_qt_module OpenGL -- libqt6opengl6-dev "Qt 6 OpenGL (CMake package Qt6OpenGL)"
+        fi
     fi
     if [ "$purpose" = designer ]; then
-        need required has_qt_tool designer -- qttools5-dev-tools "Qt 5 Designer (designer)"
+        need required has_qt_tool designer -- $programs "$qt Designer (designer)"
     fi
     if [ "$purpose" = test ]; then
-        need required has_qt_module Test -- qtbase5-dev "Qt 5 Test (CMake package Qt5Test)"
-        need required has_qt_module UiTools -- qttools5-dev "Qt 5 UiTools (CMake package Qt5UiTools)"
+        need required has_qt_module Test -- $base "$qt Test (CMake package Qt${major}Test)"
+        need required has_qt_module UiTools -- $tools "$qt UiTools (CMake package Qt${major}UiTools)"
         need required has_fonts -- fonts-dejavu-core "the DejaVu fonts in /usr/share/fonts/truetype/dejavu"
         need optional has_command clang-format -- clang-format "clang-format, for scripts/check-format.sh"
         need optional has_command xvfb-run -- xvfb "xvfb-run, for the mouse-drag tests"
@@ -187,7 +217,7 @@ if [ ${#missing_required[@]} -gt 0 ]; then
     report "${missing_required[@]}"
     if [ "$can_install" -eq 0 ]; then
         echo "bootstrap: cannot install them here (that takes apt-get, and root or sudo). Install them, or" \
-            "skip this check with --no-bootstrap (or TWC_NO_BOOTSTRAP=1). A Qt 5.15 outside the system folders is found" \
+            "skip this check with --no-bootstrap (or TWC_NO_BOOTSTRAP=1). A Qt outside the system folders is found" \
             "through CMAKE_PREFIX_PATH." >&2
     fi
     exit 1

@@ -3,8 +3,10 @@
 # builds everything that is tested (autotests, fuzz corpus replays, the Designer plugin,
 # benchmarks) and runs every test headless. With --sanitize it builds with AddressSanitizer and
 # UndefinedBehaviorSanitizer into build-sanitize (or $BUILD_DIR) and runs the suite there, with
-# LeakSanitizer on and Qt's and the system's own leaks suppressed (scripts/lsan.supp). Other
-# arguments go to ctest.
+# LeakSanitizer on and Qt's and the system's own leaks suppressed (scripts/lsan.supp). With --qt6
+# (or TWC_QT_MAJOR=6) it installs what Qt 6 needs and builds with Qt 6 into build-qt6 (or
+# $BUILD_DIR); the same tests run there, against the Qt 6 screenshot references. Other arguments go
+# to ctest.
 set -euo pipefail
 top="$(cd "$(dirname "$0")/.." && pwd)"
 sanitize=0
@@ -12,11 +14,16 @@ ctest_args=()
 for argument in "$@"; do
     case "$argument" in
     --sanitize) sanitize=1 ;;
+    --qt6) export TWC_QT_MAJOR=6 ;;
     --no-bootstrap) export TWC_NO_BOOTSTRAP=1 ;;
     *) ctest_args+=("$argument") ;;
     esac
 done
+major="${TWC_QT_MAJOR:-5}"
 "$top/scripts/bootstrap.sh" test
+if [ "$major" != 5 ]; then
+    export BUILD_DIR="${BUILD_DIR:-$top/build-qt$major}"
+fi
 options=(-DBUILD_TESTING=ON -DTWC_BUILD_FUZZ_REPLAYS=ON -DTWC_BUILD_BENCHMARKS=ON)
 if [ "$sanitize" -eq 1 ]; then
     export BUILD_DIR="${BUILD_DIR:-$top/build-sanitize}"

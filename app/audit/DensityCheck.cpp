@@ -1,5 +1,7 @@
 #include "DensityCheck.h"
 
+#include "QtCompat.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -82,7 +84,7 @@ void DensityCheck::checkIcon(QWidget* widget, const QIcon& icon, const QSize& si
     if (icon.isNull() || size.isEmpty())
         return;
     // What Qt draws: the icon's pixmap for this window at the shown size.
-    const QPixmap pixmap = icon.pixmap(windowHandle(widget), size);
+    const QPixmap pixmap = QtCompat::pixmap(icon, windowHandle(widget), size);
     if (pixmap.isNull())
         return;
     const QSize shown = pixmap.size() / pixmap.devicePixelRatioF();

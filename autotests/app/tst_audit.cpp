@@ -15,7 +15,7 @@
 namespace {
 const QString reportDirectory = QStringLiteral(TWC_BINARY_DIR "/audit");
 // The status matrix as designers see it, accepted like a screenshot (scripts/accept-screenshots.sh).
-const QString matrixReference = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/audit-matrix.png");
+const QString matrixReference = QStringLiteral(TWC_AUDIT_MATRIX_REFERENCE);
 const QString resultsDirectory = QStringLiteral(TWC_BINARY_DIR "/screenshot-results");
 const int auditTimeoutMs = 300000;
 // Findings named in a failure message; the report has them all.
@@ -93,9 +93,8 @@ void AuditTest::compareMatrix()
         return;
     const QString result = QDir(resultsDirectory).filePath(QStringLiteral("audit-matrix.png"));
     QVERIFY(QDir().mkpath(resultsDirectory) && matrix.save(result));
-    QFAIL(qPrintable(QStringLiteral("the status matrix looks different from %1: see %2; accept it with "
-                                    "scripts/accept-screenshots.sh")
-                         .arg(matrixReference, result)));
+    QFAIL(qPrintable(QStringLiteral("the status matrix looks different from %1: see %2; accept it with %3")
+                         .arg(matrixReference, result, QStringLiteral(TWC_ACCEPT_SCREENSHOTS_COMMAND))));
 }
 
 void AuditTest::findsNothing()

@@ -6,6 +6,7 @@
 #include "KeyboardCheck.h"
 #include "LookAudit.h"
 #include "NameCheck.h"
+#include "QtCompat.h"
 #include "StatusMatrix.h"
 #include "SwatchReader.h"
 
@@ -395,7 +396,7 @@ int main(int argc, char* argv[])
 {
     // The high-density check needs a screen of two device pixels per pixel; the others work on any.
     qputenv("QT_SCALE_FACTOR", "2");
-    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QtCompat::useHighDpiPixmaps(true);
     QApplication application(argc, argv);
     LookAuditTest test;
     return QTest::qExec(&test, argc, argv);

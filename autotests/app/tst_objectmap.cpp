@@ -269,7 +269,7 @@ void ObjectMapTest::acceptBaselines()
         const QString path = directory.filePath(window.key() + baselineSuffix);
         QVERIFY2(writeLines(path, window.value()), qPrintable(path));
     }
-    qInfo("Accepted %d windows into %s", m_windows.size(), qPrintable(baselineDirectory));
+    qInfo("Accepted %d windows into %s", int(m_windows.size()), qPrintable(baselineDirectory));
 }
 
 void ObjectMapTest::matchesBaseline_data()

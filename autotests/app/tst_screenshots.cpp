@@ -5,19 +5,20 @@
 #include <QTest>
 
 // Takes a screenshot of every window and compares it, pixel for pixel, with its reference in
-// autotests/app/screenshots; the panel and the gallery's tabs also at two device pixels per pixel
+// autotests/app/screenshots (screenshots-qt6 for a build with Qt 6, which draws a little
+// differently); the panel and the gallery's tabs also at two device pixels per pixel
 // (--scale 2), with references in its subfolder 2x. A window that looks different leaves its new
 // screenshot and a difference image in the build tree's screenshot-results folder. With
 // TWC_ACCEPT_SCREENSHOTS=1 (scripts/accept-screenshots.sh) the new screenshots become the
 // references instead.
 namespace {
-const QString referenceDirectory = QStringLiteral(TWC_SOURCE_DIR "/autotests/app/screenshots");
+const QString referenceDirectory = QStringLiteral(TWC_SCREENSHOT_REFERENCES);
 const QString resultsDirectory = QStringLiteral(TWC_BINARY_DIR "/screenshot-results");
 // The windows whose look at --scale 2 has references too, and where they are.
 const QStringList highDensityWindows = {QStringLiteral("TestWidgetCollection.png"),
                                         QStringLiteral("m_testSquish-*.png")};
 const QString highDensityFolder = QStringLiteral("2x");
-const QString acceptCommand = QStringLiteral("scripts/accept-screenshots.sh");
+const QString acceptCommand = QStringLiteral(TWC_ACCEPT_SCREENSHOTS_COMMAND);
 // Compressed as far as PNG goes, to keep the references small.
 const int referenceQuality = 0;
 const QRgb differentPixel = qRgb(255, 0, 0);
@@ -96,7 +97,7 @@ void ScreenshotsTest::acceptScreenshots(QDir references, const QDir& screenshots
         QVERIFY2(QImage(screenshots.filePath(file)).save(references.filePath(file), "PNG", referenceQuality),
                  qPrintable(references.filePath(file)));
     }
-    qInfo("Accepted %d screenshots into %s", screenshotNames(screenshots, filters).size(),
+    qInfo("Accepted %d screenshots into %s", int(screenshotNames(screenshots, filters).size()),
           qPrintable(references.path()));
 }
 

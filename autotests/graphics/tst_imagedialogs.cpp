@@ -1,5 +1,6 @@
 #include "../TestSupport.h"
 #include "ImageFiles.h"
+#include "QtCompat.h"
 #include "TestCompareIcons.h"
 #include "TestComposePixmap.h"
 #include "TestSVG.h"
@@ -26,7 +27,7 @@
 namespace {
 QImage imageOf(const QLabel* label)
 {
-    return label->pixmap() ? label->pixmap()->toImage().convertToFormat(QImage::Format_ARGB32) : QImage();
+    return QtCompat::pixmap(label).toImage().convertToFormat(QImage::Format_ARGB32);
 }
 
 QString writeImage(const QTemporaryDir& dir, const QString& name, const QSize& size, QColor colour)
@@ -201,7 +202,7 @@ void TestImageDialogs::composeOptionsAndTruncatedFactor()
     QFETCH(int, passed);
     expectComposeConnectWarnings();
     TestComposePixmap dialog(nullptr);
-    const QPixmap in = *child<QLabel>(&dialog, "inPix")->pixmap();
+    const QPixmap in = QtCompat::pixmap(child<QLabel>(&dialog, "inPix"));
     QCOMPARE(imageOf(child<QLabel>(&dialog, "outPix")), in.toImage().convertToFormat(QImage::Format_ARGB32));
     QVERIFY(child<QPushButton>(&dialog, "saveButton")->isEnabled());
     child<QRadioButton>(&dialog, option)->setChecked(true);

@@ -1,3 +1,5 @@
+#include "QtCompat.h"
+
 #include <VNActionsBar.h>
 #include <VNClearLineEdit.h>
 #include <VNCustomMenuButton.h>
@@ -27,7 +29,7 @@ namespace {
 // The button Qt shows for a line edit action: what a user clicks.
 QWidget* actionButton(QAction* action, QWidget* edit)
 {
-    for (QWidget* widget : action->associatedWidgets())
+    for (QWidget* widget : QtCompat::associatedWidgets(action))
         if (widget != edit)
             return widget;
     return nullptr;

@@ -1,3 +1,4 @@
+#include "QtCompat.h"
 #include "VNDoubleSpinBox.h"
 #include "VNFormatter.h"
 #include "VNStatusPalette.h"
@@ -438,7 +439,7 @@ void TestVNDoubleSpinBox::readOnlyFieldDoesNotSlide()
 
 void TestVNDoubleSpinBox::inputFieldSizeFromProperty()
 {
-    QVERIFY(QMetaType::type("VNDoubleSpinBox::InputFieldSize") != QMetaType::UnknownType);
+    QVERIFY(QtCompat::metaTypeId("VNDoubleSpinBox::InputFieldSize") != QMetaType::UnknownType);
     VNDoubleSpinBox field;
     QCOMPARE(field.inputFieldSize(), VNDoubleSpinBox::Ignore);
     QVERIFY(field.setProperty("inputFieldSize", QVariant::fromValue(VNDoubleSpinBox::Small)));

@@ -1,5 +1,7 @@
 #include "TestComboBox.h"
 
+#include "QtCompat.h"
+
 #include <VNComboBox.h>
 #include <VNComboBoxDoubleInput.h>
 #include <VNFilterComboBox.h>
@@ -68,8 +70,7 @@ TestComboBox::TestComboBox(QWidget* parent)
     for (double value : {1.0, 10.0, 25.0, 50.0})
         ui.vnUnitComboBox->addValue(value);
     connect(valueEdit, &VNValueEdit::valueChanged, this, &TestComboBox::onValueChanged);
-    connect(ui.vnDoubleComboBox, QOverload<const QString&>::of(&QComboBox::currentIndexChanged), this,
-            &TestComboBox::onTextChanged);
+    QtCompat::connectIndexText(ui.vnDoubleComboBox, this, &TestComboBox::onTextChanged);
 
     ui.comboDeg->setValueUnit(QStringLiteral("deg"));
     ui.comboDeg->addSpecialValue(tr("Automatic Direction"), 0);

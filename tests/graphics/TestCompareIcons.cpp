@@ -1,6 +1,7 @@
 #include "TestCompareIcons.h"
 
 #include "ImageFiles.h"
+#include "QtCompat.h"
 
 #include <SVGImage.h>
 
@@ -117,13 +118,13 @@ void TestCompareIcons::refresh()
 
 void TestCompareIcons::showDifference()
 {
-    const QPixmap* pngPixmap = png100->pixmap();
-    if (!pngPixmap || pngPixmap->isNull())
+    const QPixmap pngPixmap = QtCompat::pixmap(png100);
+    if (pngPixmap.isNull())
         return;
     const qreal ratio = qApp->devicePixelRatio();
     const QSize requested(qRound(m_iconSize.width() / ratio), qRound(m_iconSize.height() / ratio));
     const QImage svg = m_svgIcon.pixmap(requested).toImage();
-    difference->setPixmap(QPixmap::fromImage(TestCompareIcons::subtractImages(pngPixmap->toImage(), svg, m_iconSize)));
+    difference->setPixmap(QPixmap::fromImage(TestCompareIcons::subtractImages(pngPixmap.toImage(), svg, m_iconSize)));
 }
 
 QImage TestCompareIcons::subtractImages(const QImage& png, const QImage& svg, const QSize& size)

@@ -1,6 +1,7 @@
 #include "TestComposePixmap.h"
 
 #include "ImageFiles.h"
+#include "QtCompat.h"
 
 #include <PixmapFunctions.h>
 #include <VNDoubleSpinBox.h>
@@ -15,8 +16,7 @@ const QString imageFilter = QStringLiteral("Images (*.png *.xpm *.jpg)");
 
 bool hasImage(const QLabel* label)
 {
-    const QPixmap* pixmap = label->pixmap();
-    return pixmap && !pixmap->isNull();
+    return !QtCompat::pixmap(label).isNull();
 }
 } // namespace
 
@@ -94,7 +94,7 @@ void TestComposePixmap::onSaveImage()
         return;
     const QString fileName = chooseImageToSave();
     if (!fileName.isEmpty())
-        savePixmapSafely(*outPix->pixmap(), fileName);
+        savePixmapSafely(QtCompat::pixmap(outPix), fileName);
 }
 
 QString TestComposePixmap::chooseImageToLoad()
@@ -120,7 +120,7 @@ void TestComposePixmap::updateOutPix()
         saveButton->setEnabled(false);
         return;
     }
-    const QPixmap in = *inPix->pixmap();
+    const QPixmap in = QtCompat::pixmap(inPix);
     if (disbledOption->isChecked())
         outPix->setPixmap(disabledPixmap(in));
     else if (disabled2Option->isChecked())

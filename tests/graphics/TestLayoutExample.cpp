@@ -33,6 +33,8 @@ TestLayoutExample::TestLayoutExample(QWidget* parent)
     : QDialog(parent, Qt::WindowFlags())
 {
     setupUi(this);
+    QtCompat::autoConnectIndexText(comboHSizePolicy, this, &TestLayoutExample::on_comboHSizePolicy_currentIndexChanged);
+    QtCompat::autoConnectIndexText(comboVSizePolicy, this, &TestLayoutExample::on_comboVSizePolicy_currentIndexChanged);
     for (QLineEdit* display : {sizeHintW, sizeHintH, minSizeHintW, minSizeHintH, sizeW, sizeH})
         display->setPalette(displayPalette(display->palette()));
 

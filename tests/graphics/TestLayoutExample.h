@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QtCompat.h"
 #include "ui_TestLayoutExample.h"
 
 #include <QDialog>
@@ -39,10 +40,12 @@ private slots:
     void on_maxSizeW_valueChanged(int value);
     void on_maxSizeH_valueChanged(int value);
     void on_m_mySize_valueChanged(int value);
-    void on_comboHSizePolicy_currentIndexChanged(const QString& text);
-    void on_comboVSizePolicy_currentIndexChanged(const QString& text);
     void on_addStretch_clicked(bool checked);
     void on_useMyButton_clicked(bool checked);
+
+private
+    TWC_INDEX_TEXT_SLOTS : void on_comboHSizePolicy_currentIndexChanged(const QString& text);
+    void on_comboVSizePolicy_currentIndexChanged(const QString& text);
 
 private:
     void setStartState();

@@ -20,7 +20,7 @@ TestNewAssemblyImport::TestNewAssemblyImport(QWidget* parent)
     : QDialog(parent)
     , m_tree(new VNTreeView(this))
     , m_model(new QStandardItemModel(this))
-    , m_proxy(new QSortFilterProxyModel(this))
+    , m_proxy(new QtCompat::RegExpFilterProxyModel(this))
     , m_searchField(new QLineEdit(this))
     , m_resetButton(new VNButton(nullptr))
 {

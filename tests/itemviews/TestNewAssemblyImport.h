@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QtCompat.h"
 #include "ui_TestNewAssemblyImport.h"
 
 #include <QDialog>
@@ -42,7 +43,7 @@ private:
 
     VNTreeView* m_tree;
     QStandardItemModel* m_model;
-    QSortFilterProxyModel* m_proxy;
+    QtCompat::RegExpFilterProxyModel* m_proxy;
     QLineEdit* m_searchField;
     VNButton* m_resetButton;
     QStringList m_headerLabels;

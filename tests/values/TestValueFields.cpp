@@ -17,6 +17,8 @@ TestValueFields::TestValueFields(QWidget* parent)
     : QDialog(parent, Qt::WindowFlags())
 {
     ui.setupUi(this);
+    QtCompat::autoConnectIndexText(ui.valueUnitBox, this, &TestValueFields::on_valueUnitBox_currentIndexChanged);
+    QtCompat::autoConnectIndexText(ui.displayUnitBox, this, &TestValueFields::on_displayUnitBox_currentIndexChanged);
     VNDoubleSpinBox* field = ui.vnDoubleSpinBox;
     field->setUseGlobalDisplayUnit(true);
     connect(field->formatter(), SIGNAL(settingsChanged()), this, SLOT(onSpinBoxSettingsChnaged()));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "QtCompat.h"
 #include "ui_TestValueFields.h"
 
 #include <QDialog>
@@ -24,8 +25,6 @@ private slots:
     void on_valueUnit_textChanged(const QString& text);
     void on_displayUnit_editingFinished();
     void on_displayUnit_textChanged(const QString& text);
-    void on_valueUnitBox_currentIndexChanged(const QString& text);
-    void on_displayUnitBox_currentIndexChanged(const QString& text);
     void on_widgetWidth_currentIndexChanged(int index);
     void on_sigmaEnabled_toggled();
     void on_sigmaActive_toggled();
@@ -53,6 +52,10 @@ private slots:
     void on_precission_valueChanged(int value);
     void on_fieldWidth_editingFinished();
     void on_stepRounding_toggled();
+
+private
+    TWC_INDEX_TEXT_SLOTS : void on_valueUnitBox_currentIndexChanged(const QString& text);
+    void on_displayUnitBox_currentIndexChanged(const QString& text);
 
 private:
     void fillUnitBox(QComboBox* box);

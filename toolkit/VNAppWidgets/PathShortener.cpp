@@ -1,6 +1,7 @@
 #include "PathShortener.h"
 
 #include <QVarLengthArray>
+#include <QVector>
 
 #include <algorithm>
 #include <cstdlib>

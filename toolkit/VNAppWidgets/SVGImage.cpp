@@ -8,7 +8,7 @@
 #include <QXmlStreamReader>
 
 namespace {
-bool isTextElement(const QStringRef& name)
+bool isTextElement(QStringView name)
 {
     return name == QLatin1String("text") || name == QLatin1String("tspan");
 }
@@ -163,9 +163,11 @@ bool SVGImage::parse(const QString& source, QVector<TextItem>* items, QSize* def
                 run.end = int(reader.characterOffset());
                 if (run.end > run.begin && source.at(run.end - 1) == QLatin1Char('<'))
                     --run.end;
-                if (token == QXmlStreamReader::EntityReference && reader.text().isEmpty())
-                    runText += QLatin1Char('&') + reader.name() + QLatin1Char(';');
-                else
+                if (token == QXmlStreamReader::EntityReference && reader.text().isEmpty()) {
+                    runText += QLatin1Char('&');
+                    runText += reader.name();
+                    runText += QLatin1Char(';');
+                } else
                     runText += reader.text();
             }
             break;
@@ -204,11 +206,11 @@ QString SVGImage::getModifiedSource() const
     for (const TextItem& item : m_items) {
         if (!item.used)
             continue;
-        modified += m_source.midRef(position, item.begin - position);
+        modified += QStringView(m_source).mid(position, item.begin - position);
         modified += escaped(item.replacement);
         position = item.end;
     }
-    modified += m_source.midRef(position);
+    modified += QStringView(m_source).mid(position);
     return modified;
 }
 

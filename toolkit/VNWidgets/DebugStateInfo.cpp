@@ -28,7 +28,7 @@ const int refreshIntervalMs = 250;
 const QSize swatchSize(16, 16);
 // Application-wide, because the keyboard focus is in the window being inspected.
 const QKeySequence freezeKey(Qt::Key_F8);
-const QKeySequence copyImageKey(Qt::CTRL + Qt::SHIFT + Qt::Key_C);
+const QKeySequence copyImageKey(Qt::CTRL | Qt::SHIFT | Qt::Key_C);
 
 QString yesNo(bool value)
 {

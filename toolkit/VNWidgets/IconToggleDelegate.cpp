@@ -60,7 +60,7 @@ void IconToggleDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
     const bool on = isOn(index);
     const QVariant mirrored = index.data(Qt::EditRole);
-    if (mirrored.type() != QVariant::Bool || mirrored.toBool() != on)
+    if (mirrored.userType() != QMetaType::Bool || mirrored.toBool() != on)
         mirrorToEditRole(index, on);
     const QVariant active = index.data(VNItemDataRoles::ActiveRole);
     const bool enabled = (opt.state & QStyle::State_Enabled) && (!active.isValid() || active.toBool());
@@ -91,7 +91,7 @@ void IconToggleDelegate::mirrorToEditRole(const QModelIndex& index, bool on) con
                     continue;
                 const QVariant mirrored = cell.data(Qt::EditRole);
                 const bool cellOn = isOn(cell);
-                if (mirrored.type() != QVariant::Bool || mirrored.toBool() != cellOn)
+                if (mirrored.userType() != QMetaType::Bool || mirrored.toBool() != cellOn)
                     guard->setData(cell, cellOn, Qt::EditRole);
             }
         },

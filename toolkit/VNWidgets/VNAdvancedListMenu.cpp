@@ -34,7 +34,7 @@ QSize VNListMenuEntry::sizeHint() const
     return QSize(m_width, qMax(m_iconSize.height(), textHeight) + 8);
 }
 
-void VNListMenuEntry::enterEvent(QEvent*)
+void VNListMenuEntry::enterEvent(QtCompat::EnterEvent*)
 {
     m_hovered = true;
     update();

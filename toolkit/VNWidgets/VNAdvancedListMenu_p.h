@@ -1,5 +1,7 @@
 #pragma once
 
+#include "QtCompat.h"
+
 #include <QAbstractButton>
 #include <QPointer>
 
@@ -19,7 +21,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEvent* event) override;
+    void enterEvent(QtCompat::EnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:

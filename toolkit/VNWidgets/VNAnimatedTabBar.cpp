@@ -1,4 +1,5 @@
 #include "VNAnimatedTabBar.h"
+#include "QtCompat.h"
 #include "VNStatusPainter_p.h"
 #include "VNSvgIcon_p.h"
 
@@ -517,7 +518,7 @@ void VNAnimatedTabBar::mousePressEvent(QMouseEvent* event)
 
 void VNAnimatedTabBar::mouseMoveEvent(QMouseEvent* event)
 {
-    const int hovered = getIndexAtPosition(event->globalPos());
+    const int hovered = getIndexAtPosition(QtCompat::globalPosition(event));
     if (hovered != m_hovered) {
         m_hovered = hovered;
         update();

@@ -1,5 +1,7 @@
 #include "VNCustomHeaderView.h"
 
+#include "QtCompat.h"
+
 #include "VNItemDataRoles.h"
 #include "VNStatusPalette.h"
 
@@ -303,7 +305,7 @@ void VNCustomHeaderView::mousePressEvent(QMouseEvent* event)
         return;
     }
     if (event->button() == Qt::LeftButton && toolTipButtonRect(section).contains(event->pos())) {
-        QToolTip::showText(event->globalPos(), m_toolTipButtons.value(section), this);
+        QToolTip::showText(QtCompat::globalPosition(event), m_toolTipButtons.value(section), this);
         emit toolTipButtonClicked(section);
         event->accept();
         return;

@@ -1,5 +1,7 @@
 #include "VNDoubleSpinBox.h"
 
+#include "QtCompat.h"
+
 #include "VNFormatter.h"
 #include "VNStatusPalette.h"
 
@@ -414,7 +416,7 @@ bool VNDoubleSpinBox::handleEditMousePress(QMouseEvent* event)
     if (event->button() != Qt::LeftButton || isReadOnly())
         return false;
     m_pressed = true;
-    m_pressPosition = event->globalPos();
+    m_pressPosition = QtCompat::globalPosition(event);
     m_pressValue = value();
     return false; // the edit still places its cursor
 }
@@ -423,7 +425,7 @@ bool VNDoubleSpinBox::handleEditMouseMove(QMouseEvent* event)
 {
     if (!m_pressed || !(event->buttons() & Qt::LeftButton))
         return false;
-    const QPoint moved = event->globalPos() - m_pressPosition;
+    const QPoint moved = QtCompat::globalPosition(event) - m_pressPosition;
     if (!m_sliding) {
         if (std::abs(moved.x()) < slideThreshold || std::abs(moved.x()) <= std::abs(moved.y()))
             return false;

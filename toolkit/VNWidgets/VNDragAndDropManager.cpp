@@ -1,5 +1,7 @@
 #include "VNDragAndDropManager.h"
 
+#include "QtCompat.h"
+
 #include <QAbstractItemView>
 #include <QDrag>
 #include <QDragEnterEvent>
@@ -171,7 +173,7 @@ void VNDragAndDropManager::decide(QDragMoveEvent* event, QTreeWidgetItem* target
     auto* tree = qobject_cast<QTreeWidget*>(m_view);
     if (!tree) {
         event->acceptProposedAction();
-        const QModelIndex index = m_view->indexAt(event->pos());
+        const QModelIndex index = m_view->indexAt(QtCompat::position(event));
         setDropTargetRect(index.isValid() ? m_view->visualRect(index) : QRect());
         return;
     }

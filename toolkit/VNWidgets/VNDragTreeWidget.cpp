@@ -1,5 +1,7 @@
 #include "VNDragTreeWidget.h"
 
+#include "QtCompat.h"
+
 #include "VNCustomHeaderView.h"
 #include "VNDragAndDropManager.h"
 #include "VNDropTargetPainter_p.h"
@@ -185,12 +187,12 @@ void VNDragTreeWidget::startDrag(Qt::DropActions supportedActions)
 
 void VNDragTreeWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    m_dragAndDropManager->handleDragEnter(event, itemAt(event->pos()));
+    m_dragAndDropManager->handleDragEnter(event, itemAt(QtCompat::position(event)));
 }
 
 void VNDragTreeWidget::dragMoveEvent(QDragMoveEvent* event)
 {
-    m_dragAndDropManager->handleDragMove(event, itemAt(event->pos()));
+    m_dragAndDropManager->handleDragMove(event, itemAt(QtCompat::position(event)));
 }
 
 void VNDragTreeWidget::dragLeaveEvent(QDragLeaveEvent* event)
@@ -201,7 +203,7 @@ void VNDragTreeWidget::dragLeaveEvent(QDragLeaveEvent* event)
 
 void VNDragTreeWidget::dropEvent(QDropEvent* event)
 {
-    QTreeWidgetItem* target = itemAt(event->pos());
+    QTreeWidgetItem* target = itemAt(QtCompat::position(event));
     const bool ownDrag = m_dragAndDropManager->isOwnDrag(event);
     if (!m_dragAndDropManager->handleDrop(event))
         return;

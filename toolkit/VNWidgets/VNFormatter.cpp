@@ -65,19 +65,33 @@ double withoutNegativeZero(double value, int decimals)
     return value;
 }
 
+// The exponent is always marked by a lower-case letter; Qt 6's locale data gives some languages
+// (German among them) an upper-case one.
+QString exponentMark(const QLocale& locale)
+{
+    return QString(locale.exponential()).toLower();
+}
+
+// QLocale::toString() with the exponent marked in lower case ('e' and 'g' formats).
+QString numberText(const QLocale& locale, double value, char format, int precision)
+{
+    const QString mark = QString(locale.exponential());
+    return locale.toString(value, format, precision).replace(mark, mark.toLower());
+}
+
 QString exponentText(const QLocale& locale, int exponent)
 {
     QString digits = locale.toString(std::abs(exponent));
     if (std::abs(exponent) < 10)
         digits.prepend(locale.zeroDigit());
     const QString sign = exponent < 0 ? locale.negativeSign() : locale.positiveSign();
-    return locale.exponential() + sign + digits;
+    return exponentMark(locale) + sign + digits;
 }
 
 QString engineeringText(const QLocale& locale, double value, int precision)
 {
     if (!qIsFinite(value))
-        return locale.toString(value, 'e', precision - 1);
+        return numberText(locale, value, 'e', precision - 1);
     // Round to the significant digits first, so that 999.96 becomes 1.00e+03 and not 1000e+00.
     // The mantissa is shifted by at most two places; dividing by a power of ten instead would
     // overflow for subnormal numbers (10^-324 is zero in a double).
@@ -267,15 +281,15 @@ double VNFormatter::numberFromText(const QString& text, bool* ok, bool* ambiguou
     bool unclear = false;
     QLocale locale;
     locale.setNumberOptions(locale.numberOptions() | QLocale::RejectGroupSeparator);
-    const QChar point = locale.decimalPoint();
-    const QChar group = locale.groupSeparator();
+    const QString point = locale.decimalPoint();
+    const QString group = locale.groupSeparator();
+    const QString dot = QStringLiteral(".");
     QString number = text.trimmed();
     double value = 0.0;
-    if (group != point && group != QLatin1Char('.') && number.contains(group)) {
+    if (group != point && group != dot && number.contains(group)) {
         unclear = true; // a group separator, or a decimal separator of another language
-    } else if (point != QLatin1Char('.') && number.contains(QLatin1Char('.'))) {
-        unclear = number.contains(point) || number.count(QLatin1Char('.')) > 1 ||
-                  (group == QLatin1Char('.') && looksGroupedByDot(number));
+    } else if (point != dot && number.contains(dot)) {
+        unclear = number.contains(point) || number.count(dot) > 1 || (group == dot && looksGroupedByDot(number));
         if (!unclear)
             value = locale.toDouble(number.replace(QLatin1Char('.'), point), &parsed);
     } else {
@@ -354,10 +368,10 @@ QString VNFormatter::formatNumber(double displayValue) const
         text = locale.toString(withoutNegativeZero(displayValue, m_decimals), 'f', m_decimals);
         break;
     case ScientificNotation:
-        text = locale.toString(displayValue, 'e', m_precision - 1);
+        text = numberText(locale, displayValue, 'e', m_precision - 1);
         break;
     case AutomaticNotation:
-        text = locale.toString(displayValue, 'g', m_precision);
+        text = numberText(locale, displayValue, 'g', m_precision);
         break;
     case EngineeringNotation:
         text = engineeringText(locale, displayValue, m_precision);

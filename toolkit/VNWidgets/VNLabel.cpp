@@ -1,5 +1,7 @@
 #include "VNLabel.h"
 
+#include "QtCompat.h"
+
 #include "VNDoubleSpinBox.h"
 #include "VNFormatter.h"
 #include "VNValueEdit.h"
@@ -134,21 +136,23 @@ bool VNLabel::hasSlidableBuddy() const
            (qobject_cast<VNDoubleSpinBox*>(target) || qobject_cast<VNValueEdit*>(target));
 }
 
-void VNLabel::enterEvent(QEvent* event)
+bool VNLabel::event(QEvent* event)
 {
     // The cursor tells that the label can be dragged.
-    if (hasSlidableBuddy())
-        setCursor(Qt::SizeHorCursor);
-    else
-        unsetCursor();
-    QLabel::enterEvent(event);
+    if (event->type() == QEvent::Enter) {
+        if (hasSlidableBuddy())
+            setCursor(Qt::SizeHorCursor);
+        else
+            unsetCursor();
+    }
+    return QLabel::event(event);
 }
 
 void VNLabel::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && hasSlidableBuddy()) {
         m_sliding = true;
-        m_slideStartX = event->globalPos().x();
+        m_slideStartX = QtCompat::globalPosition(event).x();
         m_slidSteps = 0;
         event->accept();
         return;
@@ -162,7 +166,7 @@ void VNLabel::mouseMoveEvent(QMouseEvent* event)
         QLabel::mouseMoveEvent(event);
         return;
     }
-    const int steps = (event->globalPos().x() - m_slideStartX) / pixelsPerStep;
+    const int steps = (QtCompat::globalPosition(event).x() - m_slideStartX) / pixelsPerStep;
     if (steps != m_slidSteps) {
         stepBuddy(steps - m_slidSteps);
         m_slidSteps = steps;

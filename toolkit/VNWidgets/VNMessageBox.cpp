@@ -1,5 +1,7 @@
 #include "VNMessageBox.h"
 
+#include "QtCompat.h"
+
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
@@ -197,13 +199,13 @@ bool VNMessageBox::eventFilter(QObject* watched, QEvent* event)
         if (event->type() == QEvent::MouseButtonPress) {
             auto* mouse = static_cast<QMouseEvent*>(event);
             if (mouse->button() == Qt::LeftButton) {
-                m_dragOffset = mouse->globalPos() - frameGeometry().topLeft();
+                m_dragOffset = QtCompat::globalPosition(mouse) - frameGeometry().topLeft();
                 return true;
             }
         } else if (event->type() == QEvent::MouseMove) {
             auto* mouse = static_cast<QMouseEvent*>(event);
             if (mouse->buttons() & Qt::LeftButton) {
-                move(mouse->globalPos() - m_dragOffset);
+                move(QtCompat::globalPosition(mouse) - m_dragOffset);
                 return true;
             }
         }

@@ -85,7 +85,7 @@ bool VNMultiPushButtonDelegate::isButtonEnabled(const QModelIndex& index, int bu
     if (!VNButtonCellDelegate::isButtonEnabled(index, button))
         return false;
     const QVariant enabled = index.data(enabledRole);
-    if (enabled.type() == QVariant::List)
+    if (enabled.userType() == QMetaType::QVariantList)
         return enabled.toList().value(button, true).toBool();
     return !enabled.isValid() || enabled.toBool();
 }

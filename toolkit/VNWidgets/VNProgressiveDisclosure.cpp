@@ -1,5 +1,7 @@
 #include "VNProgressiveDisclosure.h"
 
+#include "QtCompat.h"
+
 #include "VNDisclosureResizeHandle_p.h"
 #include "VNProgressiveDisclosureBtn.h"
 #include "VNSvgIcon_p.h"
@@ -55,14 +57,14 @@ void VNDisclosureResizeHandle::paintEvent(QPaintEvent*)
 
 void VNDisclosureResizeHandle::mousePressEvent(QMouseEvent* event)
 {
-    m_pressY = event->globalPos().y();
+    m_pressY = QtCompat::globalPosition(event).y();
     emit dragStarted();
 }
 
 void VNDisclosureResizeHandle::mouseMoveEvent(QMouseEvent* event)
 {
     if (event->buttons() & Qt::LeftButton)
-        emit dragged(event->globalPos().y() - m_pressY);
+        emit dragged(QtCompat::globalPosition(event).y() - m_pressY);
 }
 
 VNProgressiveDisclosure::VNProgressiveDisclosure(QWidget* parent)

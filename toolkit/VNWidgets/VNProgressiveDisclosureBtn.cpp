@@ -2,6 +2,7 @@
 #include "VNFocusMark_p.h"
 #include "VNWidgetStatus.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyle>
@@ -88,10 +89,12 @@ void VNProgressiveDisclosureBtn::paintEvent(QPaintEvent*)
         VNFocusMark::paint(painter, rect().adjusted(6, 2, -6, -2));
 }
 
-void VNProgressiveDisclosureBtn::enterEvent(QEvent* event)
+bool VNProgressiveDisclosureBtn::event(QEvent* event)
 {
-    QAbstractButton::enterEvent(event);
-    update();
+    const bool handled = QAbstractButton::event(event);
+    if (event->type() == QEvent::Enter)
+        update();
+    return handled;
 }
 
 void VNProgressiveDisclosureBtn::leaveEvent(QEvent* event)

@@ -26,7 +26,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEvent* event) override;
+    // Enter through event(): the type of enterEvent()'s argument differs between Qt 5 and Qt 6.
+    bool event(QEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
