@@ -214,7 +214,12 @@ const QList<QPair<const char*, Paint>> families = {
     {"tool button", [](Flags f) { return onEdges(sized(new VNButton, 120, 26), f, true); }},
     {"result switcher button", resultButton},
     {"push button", [](Flags f) { return onEdges(sized(new QPushButton(QStringLiteral("Go")), 120, 26), f, true); }},
-    {"twin push button", [](Flags f) { return onEdges(sized(new VNTwinPushButton, 200, 26), f, true); }},
+    {"twin push button",
+     [](Flags f) {
+         // At its own height: its halves keep theirs, and the status frames the halves.
+         auto* twin = new VNTwinPushButton;
+         return onEdges(sized(twin, 200, twin->sizeHint().height()), f, true);
+     }},
     {"sliding check box",
      [](Flags f) { return onEdges(sized(new VNSlidingCheckBox(QStringLiteral("On")), 120, 26), f, true); }},
     {"disclosure head", [](Flags f) { return onEdges(sized(new VNProgressiveDisclosureBtn, 160, 24), f, true); }},
