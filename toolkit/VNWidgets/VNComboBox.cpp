@@ -161,7 +161,7 @@ bool VNComboBox::showsFocusInsideFrame() const
 {
     if (!hasFocus() || isEditable())
         return false;
-    return !hasFrame() || VNWidgetStatus::lookName(getWidgetStatus()) != QLatin1String("undef") ||
-           VNWidgetStatus::sigmaLookName(getWidgetStatus()) != QLatin1String("none") ||
-           getWidgetStatus().testFlag(VNWidgetStatus::compareDifferent);
+    const VNStatusPalette::StatusLook shown = VNStatusPalette::statusLook(getWidgetStatus());
+    return !hasFrame() || shown.look != VNStatusPalette::Look::undef ||
+           shown.sigma != VNStatusPalette::SigmaLook::none || shown.compare;
 }
