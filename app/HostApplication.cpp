@@ -3,6 +3,7 @@
 #include "ContactSheet.h"
 #include "LookAudit.h"
 #include "ObjectMap.h"
+#include "ReproducibleFont.h"
 
 #include <CollectionClock.h>
 #include <LauncherTable.h>
@@ -16,8 +17,6 @@
 #include <QCursor>
 #include <QDir>
 #include <QFileInfo>
-#include <QFont>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLocale>
 #include <QPixmap>
@@ -30,9 +29,6 @@
 #include <QTranslator>
 
 namespace {
-// Shipped by Debian's fonts-dejavu-core, so that texts measure the same on every machine.
-const QString reproducibleFontFile = QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf");
-const int reproducibleFontPointSize = 9;
 // Qt's own style, which every Qt build has, whatever style plugins a machine adds.
 const QString reproducibleStyle = QStringLiteral("Fusion");
 // The date a screenshot run shows as today, and where its mouse rests: off every screen, so that
@@ -266,17 +262,9 @@ bool HostApplication::saveTabScreenshots(const QDir& directory, const QString& n
 
 void HostApplication::useReproducibleLook()
 {
-    const int id = QFontDatabase::addApplicationFont(reproducibleFontFile);
-    const QStringList families = QFontDatabase::applicationFontFamilies(id);
-    if (families.isEmpty()) {
-        err() << "testwidgetcollection: \"" << reproducibleFontFile
+    if (!ReproducibleFont::install())
+        err() << "testwidgetcollection: \"" << ReproducibleFont::file
               << "\" is missing (Debian package fonts-dejavu-core); texts use the system font." << Qt::endl;
-        return;
-    }
-    QFont font(families.first(), reproducibleFontPointSize);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    font.setStyleStrategy(QFont::NoSubpixelAntialias);
-    QApplication::setFont(font);
 }
 
 // Everything else a screenshot run fixes so that it gives the same pixels on every machine and day.

@@ -41,6 +41,10 @@ using EnterEvent = QEvent;
 using EnterEvent = QEnterEvent;
 #endif
 
+// Qt 6 keeps the fractions of a font's line metrics from its tables; Qt 5 took FreeType's, rounded
+// up to whole pixels.
+constexpr bool fontLineMetricsKeepFractions = QT_VERSION_MAJOR >= 6;
+
 // Before the application exists: one device pixel per pixel, whatever the screen reports (Qt 6
 // always scales, unless its environment says otherwise). QT_SCALE_FACTOR still applies.
 inline void disableHighDpiScaling()
