@@ -6,6 +6,8 @@
 #include <VNTreeView.h>
 
 #include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
@@ -44,14 +46,21 @@ QStandardItem* findItem(QStandardItemModel* model, const QString& name)
     return found.isEmpty() ? nullptr : found.first();
 }
 
-// Opens the context menu over the row of the item, as a right click does, and triggers an action.
+// A right click at pos of the tree's viewport: the context menu event the window system sends.
+void rightClick(VNTreeView* tree, const QPoint& pos)
+{
+    QContextMenuEvent event(QContextMenuEvent::Mouse, pos, tree->viewport()->mapToGlobal(pos));
+    QApplication::sendEvent(tree->viewport(), &event);
+}
+
+// Opens the context menu over the row of the item with a right click and triggers an action.
 void triggerMenuAction(TestNewAssemblyImport& dialog, QStandardItem* item, const QString& text)
 {
     VNTreeView* tree = dialog.tree();
     const QModelIndex viewIndex = dialog.proxyModel()->mapFromSource(item->index());
     QVERIFY(viewIndex.isValid());
     tree->scrollTo(viewIndex);
-    emit tree->customContextMenuRequested(tree->visualRect(viewIndex).center());
+    rightClick(tree, tree->visualRect(viewIndex).center());
     auto* menu = tree->findChild<TreeViewContextMenu*>();
     QVERIFY(menu);
     QAction* chosen = nullptr;
@@ -182,7 +191,7 @@ void TestAssemblyImport::menuOverEmptySpaceIsGreyed()
     TestNewAssemblyImport dialog(nullptr);
     dialog.show();
     VNTreeView* tree = dialog.tree();
-    emit tree->customContextMenuRequested(QPoint(5, tree->viewport()->height() - 2));
+    rightClick(tree, QPoint(5, tree->viewport()->height() - 2));
     auto* menu = tree->findChild<TreeViewContextMenu*>();
     QVERIFY(menu);
     QCOMPARE(menu->actions().size(), 2);
