@@ -66,8 +66,21 @@ QSize VNComboBoxPopupDelegate::sizeHint(const QStyleOptionViewItem& option, cons
 VNComboBox::VNComboBox(QWidget* parent)
     : QComboBox(parent)
     , VNWidgetInterface(this)
+{}
+
+void VNComboBox::showPopup()
 {
-    setItemDelegate(new VNComboBoxPopupDelegate(this));
+    if (m_popupDelegatePending) {
+        m_popupDelegatePending = false;
+        setItemDelegate(new VNComboBoxPopupDelegate(this));
+    }
+    QComboBox::showPopup();
+}
+
+void VNComboBox::setPopupView(QAbstractItemView* view)
+{
+    m_popupDelegatePending = false;
+    setView(view);
 }
 
 void VNComboBox::setComboBoxStyle(ComboStyle style)

@@ -42,9 +42,12 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    void showPopup() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    // For a subclass that shows its items in a view of its own, which keeps its own delegate.
+    void setPopupView(QAbstractItemView* view);
 
 private:
     void takeStatusOfCurrent();
@@ -52,5 +55,7 @@ private:
 
     ComboStyle m_style = IconAndText;
     bool m_observing = false;
+    // Qt builds the whole popup when a delegate is set, so the box sets its own at the first popup.
+    bool m_popupDelegatePending = true;
     VNWidgetStatus::StatusFlags m_ownStatus;
 };

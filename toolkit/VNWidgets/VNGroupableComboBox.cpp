@@ -14,7 +14,7 @@ VNGroupableComboBox::VNGroupableComboBox(QWidget* parent)
     m_tree->setRootIsDecorated(true);
     m_tree->setItemsExpandable(true);
     m_tree->setExpandsOnDoubleClick(false);
-    setView(m_tree);
+    setPopupView(m_tree);
     // Installed after the popup's own filter, so it sees group clicks first.
     m_tree->viewport()->installEventFilter(this);
     connect(model(), &QAbstractItemModel::rowsInserted, this, [this](const QModelIndex& parentIndex) {

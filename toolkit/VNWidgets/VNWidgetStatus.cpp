@@ -100,8 +100,12 @@ VNWidgetStatus::StatusFlags VNWidgetStatus::statusFromProperty(const QWidget* wi
 
 void VNWidgetStatus::repolish(QWidget* widget)
 {
-    QStyle* style = widget->style();
-    style->unpolish(widget);
-    style->polish(widget);
+    // A widget that is not polished yet takes its look from its properties when it is, so a
+    // polish now, while it is being built, would be done twice.
+    if (widget->testAttribute(Qt::WA_WState_Polished)) {
+        QStyle* style = widget->style();
+        style->unpolish(widget);
+        style->polish(widget);
+    }
     widget->update();
 }
