@@ -72,7 +72,10 @@ void VNComboBox::showPopup()
 {
     if (m_popupDelegatePending) {
         m_popupDelegatePending = false;
-        setItemDelegate(new VNComboBoxPopupDelegate(this));
+        // A delegate or view its user set before the first popup stays; only Qt's default goes.
+        const QAbstractItemDelegate* current = itemDelegate();
+        if (current->inherits("QComboMenuDelegate") || current->inherits("QComboBoxDelegate"))
+            setItemDelegate(new VNComboBoxPopupDelegate(this));
     }
     QComboBox::showPopup();
 }
