@@ -20,6 +20,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QTreeView>
 
@@ -77,6 +78,7 @@ private slots:
     void statusListShowsCurrentStatus_data();
     void statusListShowsCurrentStatus();
     void statusBarInPopup();
+    void ownDelegateStaysAtFirstPopup();
     void numberComboItems();
     void unitComboParsesUnits_data();
     void unitComboParsesUnits();
@@ -267,6 +269,19 @@ void ComboBoxTest::statusBarInPopup()
              VNStatusPalette::markColor(VNWidgetStatus::standardChanged));
     QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) !=
             VNStatusPalette::markColor(VNWidgetStatus::needInput));
+    combo.hidePopup();
+}
+
+void ComboBoxTest::ownDelegateStaysAtFirstPopup()
+{
+    VNComboBox combo;
+    combo.addItems({"one", "two"});
+    auto* own = new QStyledItemDelegate(&combo);
+    combo.setItemDelegate(own);
+    combo.show();
+    combo.showPopup();
+    QTRY_VERIFY(combo.view()->isVisible());
+    QCOMPARE(combo.itemDelegate(), own);
     combo.hidePopup();
 }
 
