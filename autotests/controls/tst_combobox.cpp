@@ -262,9 +262,14 @@ void ComboBoxTest::statusBarInPopup()
     const QRect plain = view->visualRect(view->model()->index(0, 0));
     const QRect missing = view->visualRect(view->model()->index(1, 0));
     const QRect changed = view->visualRect(view->model()->index(2, 0));
-    // The frame colours of the style's need-input and standard-changed looks.
-    QCOMPARE(image.pixelColor(missing.left() + 2, missing.center().y()),
-             VNStatusPalette::markColor(VNWidgetStatus::needInput));
+    // The frame colours of the style's need-input and standard-changed looks, in a bar four pixels
+    // wide beside the item's left edge.
+    for (int x = 1; x <= 4; ++x)
+        QCOMPARE(image.pixelColor(missing.left() + x, missing.center().y()),
+                 VNStatusPalette::markColor(VNWidgetStatus::needInput));
+    for (int x : {0, 5})
+        QVERIFY(image.pixelColor(missing.left() + x, missing.center().y()) !=
+                VNStatusPalette::markColor(VNWidgetStatus::needInput));
     QCOMPARE(image.pixelColor(changed.left() + 2, changed.center().y()),
              VNStatusPalette::markColor(VNWidgetStatus::standardChanged));
     QVERIFY(image.pixelColor(plain.left() + 2, plain.center().y()) !=
