@@ -167,19 +167,22 @@ bool registerWholePixelFonts()
                                                                  ReproducibleFont::changedFamily));
     return true;
 }
+
+// The family to use; empty when the font is missing.
+QString registeredFamily()
+{
+    if (QtCompat::fontLineMetricsKeepFractions && registerWholePixelFonts())
+        return ReproducibleFont::changedFamily;
+    return QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(ReproducibleFont::file)).value(0);
+}
 } // namespace
 
 bool ReproducibleFont::install()
 {
-    QString family;
-    if (QtCompat::fontLineMetricsKeepFractions && registerWholePixelFonts()) {
-        family = changedFamily;
-    } else {
-        const QStringList families = QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(file));
-        if (families.isEmpty())
-            return false;
-        family = families.first();
-    }
+    // Registered once per process; a later call sets the application's font again.
+    static const QString family = registeredFamily();
+    if (family.isEmpty())
+        return false;
     QFont font(family, pointSize);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(QFont::NoSubpixelAntialias);
