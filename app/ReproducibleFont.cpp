@@ -214,8 +214,8 @@ QByteArray ReproducibleFont::withWholePixelLineMetrics(const QByteArray& origina
     write16(font, horizontalHeader->offset + 4, *wholeAscent);
     write16(font, horizontalHeader->offset + 6, -*wholeDescent);
     write16(font, horizontalHeader->offset + 8, wholeLineGap);
-    // Newer Qt 6 versions prefer the OS/2 table's values, the typographic ones when the font says
-    // to use them; they get the same.
+    // Qt 6 prefers the OS/2 table's values to these: the typographic ones when the font says to use
+    // them, else the Windows ones. All get the same.
     const int useTypographicMetrics = 0x80;
     write16(font, os2->offset + 62, readUnsigned16(font, os2->offset + 62) | useTypographicMetrics);
     write16(font, os2->offset + 68, *wholeAscent);
